@@ -1,0 +1,35 @@
+# Folders are layers: a file may include only its own folder and the folders that stand before it. Each folder has an
+# include root of its own that holds nothing but a link to it, so that any other include fails to compile.
+
+# ondara_layer(FOLDER [DEPENDS FOLDER...] [LIBRARIES TARGET...]): all sources of src/FOLDER, as an object library.
+function(ondara_layer folder)
+    cmake_parse_arguments(LAYER "" "" "DEPENDS;LIBRARIES" ${ARGN})
+    string(REPLACE "/" "_" target ${folder})
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
+                                        ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+    set(root ${PROJECT_BINARY_DIR}/layers/${target})
+    get_filename_component(parent ${root}/${folder} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+
+    add_library(${target} OBJECT ${sources})
+    target_include_directories(${target} PUBLIC ${root})
+    target_link_libraries(${target} PRIVATE ondara_options PUBLIC ${LAYER_LIBRARIES})
+    foreach(lower IN LISTS LAYER_DEPENDS)
+        string(REPLACE "/" "_" lower ${lower})
+        # Not linked but seen: the objects go into one library, below.
+        target_include_directories(${target} PUBLIC $<TARGET_PROPERTY:${lower},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
+endfunction()
+
+# ondara_library(NAME FOLDER...): the layers of the folders as one static library.
+function(ondara_library name)
+    add_library(${name} STATIC)
+    foreach(folder IN LISTS ARGN)
+        string(REPLACE "/" "_" target ${folder})
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:${target}>)
+        target_include_directories(${name} PUBLIC $<TARGET_PROPERTY:${target},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
+    target_link_libraries(${name} PRIVATE ondara_options)
+    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+endfunction()
