@@ -21,10 +21,13 @@ namespace fs = std::filesystem;
 class CScratchFolder
 {
 public:
-    CScratchFolder() : m_path(fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path().string())
+    CScratchFolder() : m_path("/dev/shm/ondara-fuzz-XXXXXX")
     {
-        m_path += "/ondara-fuzz-XXXXXX";
-        Require(::mkdtemp(m_path.data()) != nullptr, "there is a folder for the engine's input");
+        if (::mkdtemp(m_path.data()) == nullptr)
+        {
+            m_path = fs::temp_directory_path() / "ondara-fuzz-XXXXXX";
+            Require(::mkdtemp(m_path.data()) != nullptr, "there is a folder for the engine's input");
+        }
     }
     ~CScratchFolder()
     {
