@@ -4,6 +4,20 @@
 
 #include <CLI/CLI.hpp>
 
+namespace
+{
+/// What stands between the commas.
+std::vector<std::string> Words(const std::string& list)
+{
+    std::vector<std::string> words(1);
+    for (const char c : list)
+    {
+        c == ',' ? words.emplace_back() : words.back() += c;
+    }
+    return words;
+}
+} // namespace
+
 void CArguments::FilePath(CLI::Option& option)
 {
     option.transform([](const std::string& path) { return FullPath(path); });
@@ -14,6 +28,17 @@ void CArguments::FilePath(CLI::Option& option)
 void CArguments::File(const std::string& name, std::string& path, const std::string& help)
 {
     FilePath(*m_app.add_option(name, path, help)->required()->type_name(""));
+}
+
+void CArguments::File(const std::string& name, CGivenFile& file, const std::string& help)
+{
+    File(name, file.Path, help);
+    m_app.get_option(name)->transform(
+        [&file](const std::string& path)
+        {
+            file.Given = path;
+            return path;
+        });
 }
 
 void CArguments::File(const std::string& option, const std::string& value, std::string& path,
@@ -45,4 +70,18 @@ void CArguments::Choice(const std::string& option, const std::vector<std::string
         ->type_name(words)
         ->take_last()
         ->check(member);
+}
+
+void CArguments::List(const std::string& option, const std::string& help,
+                      const std::function<std::string(const std::vector<std::string>&)>& take)
+{
+    const auto takeText = [option, take](const std::string& text)
+    {
+        const std::string fault = take(Words(text));
+        if (!fault.empty())
+        {
+            throw CLI::ValidationError(option, fault);
+        }
+    };
+    m_app.add_option_function<std::string>(option, takeText, help)->type_name("LIST")->take_last();
 }

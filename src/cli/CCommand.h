@@ -4,6 +4,7 @@
 
 #include "cli/CArguments.h"
 #include "cli/CWorkbench.h"
+#include "cli/CommandLine.h"
 
 #include <string>
 
@@ -28,6 +29,8 @@ public:
     virtual void Declare(CArguments& arguments) = 0;
     /// False if the command could not do its job; the user has been told why.
     virtual bool Run(CWorkbench& workbench) = 0;
+    /// The exit code after such a failure.
+    virtual int FailureCode() const { return kExitFailed; }
 
 private:
     std::string m_name;

@@ -15,5 +15,10 @@ std::optional<std::string> CScriptedDialogs::AskOpen(const CFileRequest&)
 
 std::optional<std::string> CScriptedDialogs::AskSave(const CFileRequest& request)
 {
+    if (m_answers.empty())
+    {
+        m_messages.PlainLine("another name than " + request.InitialName +
+                             " can't be asked for here; what was to be saved is dropped");
+    }
     return AskOpen(request);
 }

@@ -25,6 +25,7 @@ void CStreamMessages::Line(const std::string& text)
     {
         line += c == '\n' ? std::string("\\n") : std::string(1, c);
     }
+    BeforeLine();
     m_stream << line << '\n' << std::flush;
 }
 

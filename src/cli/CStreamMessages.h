@@ -3,6 +3,7 @@
 
 #include "core/platform/CPlatform.h"
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 
@@ -19,6 +20,9 @@ public:
 
     /// A line of the program's own, which no message box of the desktop says.
     void PlainLine(const std::string& text);
+
+    /// Makes room for a line that is about to be written.
+    std::function<void()> BeforeLine = [] {};
 
 private:
     void Line(const std::string& text);

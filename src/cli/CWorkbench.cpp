@@ -2,14 +2,20 @@
 
 #include "core/platform/Files.h"
 
-#include <ostream>
+#include <iostream>
+
+#include <unistd.h>
 
 CWorkbench::CWorkbench(const CProgramOptions& options, std::ostream& output, std::ostream& errors)
     : m_output(output),
       m_messages(errors, options.Yes),
       m_profile(FullPath(options.Profile)),
-      App({m_messages, Dialogs, m_profile})
+      m_programs(m_messages),
+      Dialogs(m_messages),
+      Progress(errors, &errors == &std::cerr && ::isatty(STDERR_FILENO) == 1),
+      App({m_messages, Dialogs, m_profile, m_programs})
 {
+    m_messages.BeforeLine = [this] { Progress.End(); };
     App.Start(options.BaseDir);
 }
 
@@ -21,6 +27,14 @@ EOpened CWorkbench::Open(const std::string& path)
         App.RecentFiles.Remove(path);
     }
     return opened;
+}
+
+bool CWorkbench::Load(const CGivenFile& file)
+{
+    const bool loaded = Load(file.Path);
+    App.Project.ActiveGeometryFile = file.Given;
+    App.Project.ActiveEnvironmentFile = file.Given;
+    return loaded;
 }
 
 bool CWorkbench::SaveAs(const std::string& path)

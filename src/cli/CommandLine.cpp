@@ -2,6 +2,7 @@
 
 #include "cli/CArguments.h"
 #include "cli/CStreamMessages.h"
+#include "cli/CUsageError.h"
 #include "cli/CWorkbench.h"
 #include "cli/Commands.h"
 #include "cli/ManualPage.h"
@@ -18,8 +19,9 @@ namespace
 {
 constexpr const char* kProgram = "ondara-cli";
 constexpr std::size_t kHelpWidth = 80;
-constexpr const char* kDescription = "Ship motions in waves, without a screen: the project files and the "
-                                     "engine input of Ondara, for scripts, batch work and tests.";
+constexpr const char* kDescription = "Ship motions in waves, without a screen: the project files, the "
+                                     "calculations and the reports of Ondara, for scripts, batch work and "
+                                     "tests.";
 
 /// What an option writes in place of running a command.
 class CAnswer : public CLI::Success
@@ -62,10 +64,16 @@ public:
         }
         catch (const CLI::ParseError& error)
         {
-            errors << kProgram << ": " << UsageText(error) << " (" << kProgram << " --help tells more)\n";
-            return kExitUsage;
+            return Misused(UsageText(error), errors);
         }
-        return RunCommand(output, errors);
+        try
+        {
+            return RunCommand(output, errors);
+        }
+        catch (const CUsageError& error)
+        {
+            return Misused(error.what(), errors);
+        }
     }
 
 private:
@@ -102,6 +110,12 @@ private:
         return PrintText(text, output, messages) ? kExitDone : kExitFailed;
     }
 
+    static int Misused(const std::string& fault, std::ostream& errors)
+    {
+        errors << kProgram << ": " << fault << " (" << kProgram << " --help tells more)\n";
+        return kExitUsage;
+    }
+
     std::string UsageText(const CLI::ParseError& error) const
     {
         if (!m_app.get_subcommands().empty() || error.get_name() != "RequiredError")
@@ -126,7 +140,7 @@ private:
             return kExitFailed;
         }
         CWorkbench workbench(m_options, output, errors);
-        return (*command)->Run(workbench) ? kExitDone : kExitFailed;
+        return (*command)->Run(workbench) ? kExitDone : (*command)->FailureCode();
     }
 
     CProgramOptions m_options = {CurrentFolder(), CIniProfile::DefaultPath(), false};

@@ -20,6 +20,17 @@ TEST(CliMessages, AQuestionHasItsAnswerBehindIt)
     EXPECT_EQ(stream.str(), "Ondara: Go\\non? [yes]\nOndara: Go on? [no]\n");
 }
 
+TEST(CliMessages, RoomIsMadeBeforeEachLine)
+{
+    std::ostringstream stream;
+    CStreamMessages messages(stream, false);
+    messages.BeforeLine = [&] { stream << "room "; };
+    messages.MessageBox("text", "Title", EIcon::None);
+    messages.AskYesNo("Go on?", "Ondara", EIcon::Question);
+    messages.PlainLine("a");
+    EXPECT_EQ(stream.str(), "room Title: text\nroom Ondara: Go on? [no]\nroom ondara-cli: a\n");
+}
+
 TEST(CliMessages, TheBellIsSilent)
 {
     std::ostringstream stream;

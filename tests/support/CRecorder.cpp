@@ -4,6 +4,7 @@ void CRecorder::MessageBox(const std::string& text, const std::string& title, EI
 {
     Messages.push_back(title + ": " + text);
     Icons.push_back(icon);
+    Events.push_back(Messages.back());
 }
 
 bool CRecorder::AskYesNo(const std::string& text, const std::string& title, EIcon icon)
@@ -40,4 +41,61 @@ void CRecorder::WriteProfileString(const std::string& section, const std::string
 {
     Entries[{section, entry}] = value;
     ++ProfileWrites;
+}
+
+void CRecorder::MessageBeep()
+{
+    ++Beeps;
+    Events.emplace_back("beep");
+}
+
+void CRecorder::SetCursor(ECursor cursor)
+{
+    Cursors.push_back(cursor);
+    Events.emplace_back(cursor == ECursor::Wait ? "wait" : "arrow");
+}
+
+EStart CRecorder::Record(const std::string& start)
+{
+    Started.push_back(start);
+    Events.push_back(start);
+    return Start;
+}
+
+EStart CRecorder::StartProgram(const std::string& program, const std::string& baseDir)
+{
+    Record("start " + program + " in " + baseDir);
+    if (Start == EStart::Started)
+    {
+        Running = true;
+        AtStart();
+    }
+    return Start;
+}
+
+void CRecorder::EndPrograms()
+{
+    Record("end");
+    Running = false;
+}
+
+EStart CRecorder::ShowProgram(const std::string& program, const std::string& baseDir,
+                              const std::vector<std::string>& arguments)
+{
+    std::string start = "show " + program + " in " + baseDir + ":";
+    for (const std::string& argument : arguments)
+    {
+        start += " " + argument;
+    }
+    return Record(start);
+}
+
+EStart CRecorder::ShowText(const std::string& path)
+{
+    return Record("text " + path);
+}
+
+EStart CRecorder::ShellOpen(const std::string& path)
+{
+    return Record("open " + path);
 }

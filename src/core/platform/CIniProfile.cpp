@@ -85,6 +85,11 @@ void CIniProfile::WriteProfileString(const std::string& section, const std::stri
     }
 }
 
+std::string CIniProfile::Folder() const
+{
+    return std::filesystem::path(m_path).parent_path().string();
+}
+
 std::string CIniProfile::DefaultPath()
 {
     const char* configuration = std::getenv("XDG_CONFIG_HOME");

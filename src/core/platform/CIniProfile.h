@@ -18,6 +18,7 @@ public:
     std::optional<std::string> Find(const std::string& section, const std::string& entry) const override;
     void WriteProfileString(const std::string& section, const std::string& entry,
                             const std::string& value) override;
+    std::string Folder() const override;
 
     /// The user's own store.
     static std::string DefaultPath();

@@ -1,15 +1,15 @@
 #include "core/platform/Files.h"
 
+#include "core/platform/CFileHandle.h"
+#include "core/platform/CReplacementFile.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <vector>
 
-#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,62 +18,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-/// A file descriptor that is closed with its owner.
-class CFileHandle
-{
-public:
-    CFileHandle(const std::string& path, int flags, mode_t mode = 0666)
-        : m_handle(::open(path.c_str(), flags | O_CLOEXEC, mode))
-    {
-    }
-    ~CFileHandle() { Close(); }
-    CFileHandle(const CFileHandle&) = delete;
-    CFileHandle& operator=(const CFileHandle&) = delete;
-
-    bool IsOpen() const { return m_handle >= 0; }
-    int Get() const { return m_handle; }
-
-    bool Write(std::string_view content) const
-    {
-        while (!content.empty())
-        {
-            const ssize_t written = ::write(m_handle, content.data(), content.size());
-            if (written < 0 && errno == EINTR)
-            {
-                continue;
-            }
-            if (written <= 0)
-            {
-                return false;
-            }
-            content.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return true;
-    }
-
-    /// Waits until the content is on the disk. What isn't a disk (a pipe, a terminal) has nothing to wait
-    /// for.
-    bool Flush() const { return ::fsync(m_handle) == 0 || errno == EINVAL || errno == EROFS; }
-
-    bool Close()
-    {
-        const int handle = m_handle;
-        m_handle = -1;
-        return handle < 0 || ::close(handle) == 0;
-    }
-
-private:
-    int m_handle;
-};
-
-/// The file that a link leads to; the path itself if there is none yet.
-std::string ResolvedPath(const std::string& path)
-{
-    std::error_code error;
-    const fs::path resolved = fs::weakly_canonical(path, error);
-    return error ? path : resolved.string();
-}
-
 bool WriteThrough(CFileHandle& file, std::string_view content)
 {
     const bool written = file.Write(content) && file.Flush();
@@ -151,6 +95,19 @@ ESaved SaveOverExisting(const std::string& path, std::string_view content, const
 }
 } // namespace
 
+std::string ResolvedPath(const std::string& path)
+{
+    constexpr int mostLinks = 40; // as the system itself follows
+    std::error_code error;
+    fs::path resolved = fs::weakly_canonical(path, error);
+    for (int k = 0; k < mostLinks && !error && fs::is_symlink(fs::symlink_status(resolved)); ++k)
+    {
+        // The link leads to no file: what it says is the name of one that may be made.
+        resolved = fs::weakly_canonical(resolved.parent_path() / fs::read_symlink(resolved, error), error);
+    }
+    return error ? path : resolved.string();
+}
+
 std::optional<std::string> ReadFile(const std::string& path, std::size_t longest)
 {
     std::error_code error;
@@ -158,20 +115,40 @@ std::optional<std::string> ReadFile(const std::string& path, std::size_t longest
     {
         return std::nullopt;
     }
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream)
+    const CFileHandle file(path, O_RDONLY);
+    if (!file.IsOpen())
     {
         return std::nullopt;
     }
+    struct stat status = {};
     std::string content;
-    std::array<char, 65536> buffer;
-    while (stream && content.size() < longest)
+    if (::fstat(file.Get(), &status) == 0 && S_ISREG(status.st_mode))
     {
-        stream.read(buffer.data(),
-                    static_cast<std::streamsize>(std::min(buffer.size(), longest - content.size())));
-        content.append(buffer.data(), static_cast<std::size_t>(stream.gcount()));
+        content.reserve(std::min(longest, static_cast<std::size_t>(status.st_size)));
+    }
+    // What is no regular file, or grows meanwhile, is read to its end all the same.
+    std::array<char, 1 << 16> buffer;
+    while (content.size() < longest)
+    {
+        const std::size_t part = file.Read(buffer.data(), std::min(buffer.size(), longest - content.size()));
+        if (part == 0)
+        {
+            break;
+        }
+        content.append(buffer.data(), part);
     }
     return content;
+}
+
+std::optional<std::string> ReadRegularFile(const std::string& path, std::size_t longest)
+{
+    return IsRegularFile(path) ? ReadFile(path, longest) : std::nullopt;
+}
+
+bool IsRegularFile(const std::string& path)
+{
+    std::error_code error;
+    return fs::is_regular_file(path, error);
 }
 
 bool WriteFile(const std::string& path, std::string_view content)
@@ -187,24 +164,8 @@ bool WriteFile(const std::string& path, std::string_view content)
 
 bool ReplaceFile(const std::string& path, std::string_view content)
 {
-    const std::string target = ResolvedPath(path);
-    const std::string temporary = target + "." + std::to_string(::getpid()) + ".new";
-    CFileHandle file(temporary, O_WRONLY | O_CREAT | O_TRUNC);
-    if (!file.IsOpen())
-    {
-        return false;
-    }
-    std::error_code error;
-    if (WriteThrough(file, content))
-    {
-        fs::rename(temporary, target, error);
-        if (!error)
-        {
-            return true;
-        }
-    }
-    fs::remove(temporary, error);
-    return false;
+    CReplacementFile file(path);
+    return file.Append(content) && file.FinishOnDisk();
 }
 
 std::vector<std::string> KeptContents(const std::string& path)
@@ -247,6 +208,30 @@ bool FileExists(const std::string& path)
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool CanBeRead(const std::string& path)
+{
+    return ReadFile(path, 1).has_value();
+}
+
+bool IsReadOnly(const std::string& path)
+{
+    constexpr mode_t anyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0 || S_ISDIR(status.st_mode))
+    {
+        return false;
+    }
+    // Who runs the program with all rights may write any file: for him the mark alone tells.
+    return (status.st_mode & anyWriter) == 0 || ::access(path.c_str(), W_OK) != 0;
+}
+
+bool DeleteFile(const std::string& path)
+{
+    std::error_code error;
+    fs::remove(path, error);
+    return !error;
 }
 
 std::optional<std::time_t> FileTime(const std::string& path)
@@ -332,4 +317,9 @@ void ChangeFolder(const std::string& folder)
 {
     std::error_code error;
     fs::current_path(folder, error);
+}
+
+void ChangeToFolderOf(const std::string& path)
+{
+    ChangeFolder(path.substr(0, path.size() - FileName(path).size()));
 }

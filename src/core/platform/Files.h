@@ -11,6 +11,14 @@
 /// A file's content, at most `longest` bytes of it; nothing if it can't be opened or is a folder.
 std::optional<std::string> ReadFile(const std::string& path, std::size_t longest);
 
+/// The same of a regular file only: nothing for a device or a pipe, which might never end.
+std::optional<std::string> ReadRegularFile(const std::string& path, std::size_t longest);
+/// True for a file that is neither a folder nor a device nor a pipe.
+bool IsRegularFile(const std::string& path);
+
+/// The file that a link leads to, also one that is not there yet; the path itself where none can be told.
+std::string ResolvedPath(const std::string& path);
+
 /// Replaces a file's content in place; false if it can't be opened or not all bytes reach it.
 bool WriteFile(const std::string& path, std::string_view content);
 
@@ -36,6 +44,12 @@ std::vector<std::string> KeptContents(const std::string& path);
 /// True for anything that can be read as a file, so not for a folder.
 bool FileExists(const std::string& path);
 bool FolderExists(const std::string& path);
+/// True for a file that can be opened for reading, so not for a folder.
+bool CanBeRead(const std::string& path);
+/// True for a file, not a folder, that is marked as not to be written, or that this user may not write.
+bool IsReadOnly(const std::string& path);
+/// Takes a file away. True unless it still stands.
+bool DeleteFile(const std::string& path);
 /// The time of the last change; nothing if it can't be read.
 std::optional<std::time_t> FileTime(const std::string& path);
 
@@ -57,3 +71,5 @@ std::string UserName();
 std::string HomeFolder();
 /// Makes a folder the process's current one; nothing happens if that can't be done.
 void ChangeFolder(const std::string& folder);
+/// The same with the folder that a file stands in, as a file dialog leaves it.
+void ChangeToFolderOf(const std::string& path);

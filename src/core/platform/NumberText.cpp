@@ -104,9 +104,14 @@ double StandardNumber(std::string_view text)
 
 void AppendFixed(std::string& text, double value, CFixedFormat format)
 {
+    AppendDecimals(text, value, format.Decimals());
+}
+
+void AppendDecimals(std::string& text, double value, int decimals)
+{
     std::array<char, 400> buffer;
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::fixed, format.Decimals());
+                                      std::chars_format::fixed, decimals);
     text.append(buffer.data(), result.ptr);
 }
 

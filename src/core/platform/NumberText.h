@@ -38,6 +38,8 @@ private:
 
 /// Appends a number as printf writes it: rounded from its exact binary value, half to even.
 void AppendFixed(std::string& text, double value, CFixedFormat format);
+/// The same with a count of decimals, 0 to 9, that is known only at run time.
+void AppendDecimals(std::string& text, double value, int decimals);
 std::string FixedText(double value, CFixedFormat format);
 std::string IntegerText(int value);
 /// The shortest text that reads back to the same float.

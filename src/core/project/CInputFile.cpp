@@ -12,12 +12,6 @@ constexpr const char* kExtension = "od7";
 constexpr const char* kOpenFilter = "Ondara Files (*.od7; *.od6)|*.od7; *.od6|All Files (*.*)|*.*|";
 constexpr const char* kSaveFilter = "Ondara Files (*.od7)|*.od7|All Files (*.*)|*.*|";
 constexpr const char* kOffsetFilter = "Ondara Files (*.csv; *.txt)|*.csv; *.txt|All Files (*.*)|*.*|";
-
-/// The current folder becomes that of a chosen file, as file dialogs leave it.
-void ChangeToFolderOf(const std::string& path)
-{
-    ChangeFolder(path.substr(0, path.size() - FileName(path).size()));
-}
 } // namespace
 
 CInputFile::CInputFile(CProjectData& project, CProjectSession& session, CPlatform& platform)

@@ -3,9 +3,14 @@
 #include "core/platform/Files.h"
 #include "tests/support/CTestFolder.h"
 
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -47,6 +52,39 @@ TEST(EngineFolder, FoldersAndOtherNamesStay)
     EXPECT_TRUE(FileExists(folder.File("Ondara7.inp~")));
     EXPECT_TRUE(FileExists(folder.File("Ondara7")));
     EXPECT_TRUE(fs::is_directory(folder.File("ONDARA7.INP")));
+}
+
+TEST(EngineFolder, OfWhatTheEngineLeftTheLastWrittenSpellingIsTheFile)
+{
+    const CTestFolder folder;
+    const auto now = fs::file_time_type::clock::now();
+    fs::last_write_time(folder.Write("ondara7.out", "old"), now - std::chrono::hours(1));
+    fs::last_write_time(folder.Write("Ondara7.out", "new"), now);
+    fs::last_write_time(folder.Write("ONDARA7.OUT", "older"), now - std::chrono::hours(2));
+    EXPECT_EQ(TakeEngineFile(folder.Path(), "ondara7.out"), folder.File("ondara7.out"));
+    EXPECT_EQ(FileContent(folder.File("ondara7.out")), "new");
+    EXPECT_FALSE(FileExists(folder.File("Ondara7.out")));
+    EXPECT_FALSE(FileExists(folder.File("ONDARA7.OUT")));
+}
+
+TEST(EngineFolder, OfSpellingsOfOneTimeTheOwnIsTheFile)
+{
+    const CTestFolder folder;
+    const auto now = fs::file_time_type::clock::now();
+    fs::last_write_time(folder.Write("ondara7.out", "own"), now);
+    fs::last_write_time(folder.Write("Ondara7.out", "other"), now);
+    TakeEngineFile(folder.Path(), "ondara7.out");
+    EXPECT_EQ(FileContent(folder.File("ondara7.out")), "own");
+}
+
+TEST(EngineFolder, AFileThatTheEngineDidNotLeaveIsNotMade)
+{
+    const CTestFolder folder;
+    EXPECT_EQ(TakeEngineFile(folder.Path(), "ondara7.out"), folder.File("ondara7.out"));
+    EXPECT_TRUE(fs::is_empty(folder.Path()));
+    folder.Write("ONDARA7.OUT", "left");
+    TakeEngineFile(folder.Path(), "ondara7.out");
+    EXPECT_EQ(FileContent(folder.File("ondara7.out")), "left");
 }
 
 TEST(EngineFolder, ACopyReplacesAnOlderOne)
@@ -99,4 +137,79 @@ TEST(EngineFolder, ACopyThatCanNotBeMadeLeavesTheOlderOne)
     EXPECT_EQ(FileContent(target), "old");
     EXPECT_FALSE(CopyFileOver(target, folder.File("no/where")));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 2);
+}
+
+TEST(EngineFolder, ACopyKeepsWhoMayReadTheOlderOne)
+{
+    const CTestFolder folder;
+    const std::string source = folder.Write("source", "new");
+    const std::string target = folder.Write("target", "old");
+    fs::permissions(source, fs::perms(0644));
+    fs::permissions(target, fs::perms(0600));
+    EXPECT_TRUE(CopyFileOver(source, target));
+    EXPECT_EQ(FileContent(target), "new");
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms(0600));
+    EXPECT_TRUE(CopyFileOver(source, folder.File("first")));
+    EXPECT_EQ(fs::status(folder.File("first")).permissions(), fs::perms(0644));
+}
+
+TEST(EngineFolder, ACopyNeverTakesThePlaceOfADeviceOrAPipe)
+{
+    const CTestFolder folder;
+    const std::string source = folder.Write("source", "new");
+    ASSERT_EQ(::mkfifo(folder.File("pipe").c_str(), 0600), 0);
+    fs::create_symlink("/dev/null", folder.File("device"));
+    for (const char* name : {"pipe", "device"})
+    {
+        EXPECT_FALSE(CopyFileOver(source, folder.File(name)));
+    }
+    EXPECT_TRUE(fs::is_fifo(folder.File("pipe")));
+    EXPECT_TRUE(fs::is_symlink(folder.File("device")));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 3);
+}
+
+TEST(EngineFolder, ACopyReplacesALinkAndLeavesTheFileBehindIt)
+{
+    const CTestFolder folder;
+    const std::string source = folder.Write("source", "new");
+    folder.Write("other", "old");
+    fs::create_symlink("other", folder.File("link"));
+    EXPECT_TRUE(CopyFileOver(source, folder.File("link")));
+    EXPECT_FALSE(fs::is_symlink(folder.File("link")));
+    EXPECT_EQ(FileContent(folder.File("link")), "new");
+    EXPECT_EQ(FileContent(folder.File("other")), "old");
+}
+
+TEST(EngineFolder, OfACopyThatIsCutShortNothingIsLeft)
+{
+    const CTestFolder folder;
+    const std::string source = folder.Write("source", std::string(100000, 'x'));
+    const std::string target = folder.Write("target", "old");
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit limit = {};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const struct rlimit small = {10000, limit.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(CopyFileOver(source, target));
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(FileContent(target), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 2);
+}
+
+TEST(EngineFolder, AFileOfTheEngineIsKnownInAnyCaseAndThroughLinks)
+{
+    const CTestFolder folder;
+    fs::create_directory(folder.File("engine"));
+    fs::create_directory_symlink("engine", folder.File("also"));
+    fs::create_symlink("engine/ondara7.bin", folder.File("kept.tv7"));
+    const std::string engine = folder.File("engine");
+    for (const char* name : {"engine/ondara7.bin", "engine/ONDARA7.bin", "also/Ondara7.bin", "kept.tv7"})
+    {
+        EXPECT_TRUE(IsEngineFile(folder.File(name), engine, "ondara7.bin")) << name;
+    }
+    for (const char* name : {"engine/ondara7.bin2", "ondara7.bin", "engine/other"})
+    {
+        EXPECT_FALSE(IsEngineFile(folder.File(name), engine, "ondara7.bin")) << name;
+    }
 }

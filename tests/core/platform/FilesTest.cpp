@@ -120,6 +120,16 @@ TEST(Files, AMissingFileAndAFolderCantBeRead)
     EXPECT_EQ(ReadFile("", kAnyLength), std::nullopt);
 }
 
+TEST(Files, ADeviceIsNoRegularFile)
+{
+    const CTestFolder folder;
+    const std::string path = folder.Write("File", "content");
+    EXPECT_EQ(ReadRegularFile(path, 100), "content");
+    EXPECT_EQ(ReadRegularFile("/dev/zero", 100), std::nullopt);
+    EXPECT_EQ(ReadRegularFile(folder.Path(), 100), std::nullopt);
+    EXPECT_EQ(ReadRegularFile(folder.File("none"), 100), std::nullopt);
+}
+
 TEST(Files, WritingReplacesTheContentInPlace)
 {
     const CTestFolder folder;
@@ -313,6 +323,20 @@ TEST(Files, SavingFollowsALinkAndKeepsTheContentBesideTheFile)
     EXPECT_THAT(Names(folder.Path()), ElementsAre("Link.od7", "ships"));
 }
 
+TEST(Files, ALinkLeadsToItsFileAlsoWhereThatIsNotThereYet)
+{
+    const CTestFolder folder;
+    fs::create_directory(folder.File("ships"));
+    fs::create_symlink("ships/First", folder.File("Link"));
+    fs::create_symlink("Second", folder.File("ships/First"));
+    EXPECT_EQ(ResolvedPath(folder.File("Link")), folder.File("ships/Second"));
+    folder.Write("ships/Second", "");
+    EXPECT_EQ(ResolvedPath(folder.File("Link")), folder.File("ships/Second"));
+    EXPECT_EQ(ResolvedPath(folder.File("none")), folder.File("none"));
+    fs::create_symlink("Loop", folder.File("Loop"));
+    EXPECT_EQ(ResolvedPath(folder.File("Loop")), folder.File("Loop"));
+}
+
 TEST(Files, SavingThroughALinkToNoFileMakesTheFile)
 {
     const CTestFolder folder;
@@ -436,4 +460,46 @@ TEST(Files, OnlyAFolderIsAFolder)
     EXPECT_FALSE(FolderExists(folder.Write("File", "")));
     EXPECT_FALSE(FolderExists(folder.File("none")));
     EXPECT_FALSE(FolderExists(""));
+}
+
+TEST(Files, OnlyAFileThatCanBeOpenedCanBeRead)
+{
+    const CTestFolder folder;
+    EXPECT_TRUE(CanBeRead(folder.Write("File", "")));
+    EXPECT_FALSE(CanBeRead(folder.Path()));
+    EXPECT_FALSE(CanBeRead(folder.File("none")));
+}
+
+TEST(Files, AFileThatNobodyMayWriteIsReadOnly)
+{
+    const CTestFolder folder;
+    const std::string path = folder.Write("File", "");
+    EXPECT_FALSE(IsReadOnly(path));
+    fs::permissions(path, fs::perms::owner_read | fs::perms::group_read);
+    EXPECT_TRUE(IsReadOnly(path));
+    EXPECT_FALSE(IsReadOnly(folder.File("none")));
+    fs::create_directory(folder.File("folder"));
+    fs::permissions(folder.File("folder"), fs::perms::owner_read);
+    EXPECT_FALSE(IsReadOnly(folder.File("folder")));
+}
+
+TEST(Files, ADeletedFileIsGoneAndAMissingOneNoFailure)
+{
+    const CTestFolder folder;
+    const std::string path = folder.Write("File", "content");
+    EXPECT_TRUE(DeleteFile(path));
+    EXPECT_FALSE(FileExists(path));
+    EXPECT_TRUE(DeleteFile(path));
+    fs::create_directories(folder.File("folder/inner"));
+    EXPECT_FALSE(DeleteFile(folder.File("folder")));
+}
+
+TEST(Files, AFileDialogLeavesTheFolderOfItsFile)
+{
+    const CTestFolder folder;
+    ChangeFolder("/");
+    ChangeToFolderOf(folder.File("none"));
+    EXPECT_EQ(CurrentFolder(), folder.Path());
+    ChangeToFolderOf("name");
+    EXPECT_EQ(CurrentFolder(), folder.Path());
 }
