@@ -1,5 +1,6 @@
 # Folders are layers: a file may include only its own folder and the folders that stand before it. Each folder has an
-# include root of its own that holds nothing but a link to it, so that any other include fails to compile.
+# include root of its own that holds nothing but a link to it or to its headers, so that any other include fails to
+# compile.
 
 # ondara_layer(FOLDER [DEPENDS FOLDER...] [LIBRARIES TARGET...]): all sources of src/FOLDER, as an object library.
 function(ondara_layer folder)
@@ -10,7 +11,21 @@ function(ondara_layer folder)
     set(root ${PROJECT_BINARY_DIR}/layers/${target})
     get_filename_component(parent ${root}/${folder} DIRECTORY)
     file(MAKE_DIRECTORY ${parent})
-    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+    file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+    file(GLOB nested ${PROJECT_SOURCE_DIR}/src/${folder}/*/*.h)
+    if(nested)
+        # A folder inside is a layer of its own, so that only the headers beside it are linked.
+        if(IS_SYMLINK ${root}/${folder})
+            file(REMOVE ${root}/${folder})
+        endif()
+        file(MAKE_DIRECTORY ${root}/${folder})
+        foreach(header IN LISTS headers)
+            get_filename_component(name ${header} NAME)
+            file(CREATE_LINK ${header} ${root}/${folder}/${name} SYMBOLIC)
+        endforeach()
+    else()
+        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+    endif()
 
     add_library(${target} OBJECT ${sources})
     target_include_directories(${target} PUBLIC ${root})

@@ -176,6 +176,23 @@ void FillToMaximum(CProjectData& project)
     project.RecomputeCompleteness();
 }
 
+void FillToLargestRun(CProjectData& project)
+{
+    FillToMaximum(project);
+    for (int k = 0; k < kMaxSeaDirections; ++k)
+    {
+        project.SEADIR.Set(k, 5.0F * static_cast<float>(k));
+    }
+    project.WVFREQMAX.Set(project.WVFREQMIN.Value() + 59 * project.DWVFREQ.Value());
+    // The last one entered isn't calculated.
+    project.NPOS.Set(kMaxPositions + 1);
+    for (int k = 0; k < kMaxPositions; ++k)
+    {
+        project.RELMOCALC.Set(k, static_cast<float>(k % 5 + 1));
+        project.MSIMethod[static_cast<std::size_t>(k)] = k % 2;
+    }
+}
+
 void FillToMinimum(CProjectData& project)
 {
     project.SPECTRUM.Set(0);

@@ -9,6 +9,10 @@
 /// are metric, for an engine in metric units. The hull is a parabolic one.
 void FillToMaximum(CProjectData& project);
 
+/// Fills a project so that its run is the largest: as FillToMaximum, with each kind of motion among ten
+/// calculated positions, all directions up to 180 degrees, and 60 wave frequencies.
+void FillToLargestRun(CProjectData& project);
+
 /// Gives a project at its defaults the values without which its engine input isn't written: regular waves
 /// from one direction, ship data, a hull without stations.
 void FillToMinimum(CProjectData& project);
