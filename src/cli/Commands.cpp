@@ -1,10 +1,16 @@
 #include "cli/Commands.h"
 
+#include "cli/CCompleteCommand.h"
 #include "cli/CConvertCommand.h"
 #include "cli/CDumpCommand.h"
 #include "cli/CEngineInputCommand.h"
 #include "cli/CImportOffsetsCommand.h"
 #include "cli/CNewCommand.h"
+#include "cli/CPagesCommand.h"
+#include "cli/CReportCommand.h"
+#include "cli/CRestoreCommand.h"
+#include "cli/CRunCommand.h"
+#include "cli/CSummaryCommand.h"
 #include "cli/CUnitsCommand.h"
 #include "cli/CWaterlineInputCommand.h"
 
@@ -22,5 +28,6 @@ std::vector<std::unique_ptr<CCommand>> Made()
 std::vector<std::unique_ptr<CCommand>> AllCommands()
 {
     return Made<CNewCommand, CDumpCommand, CConvertCommand, CUnitsCommand, CImportOffsetsCommand,
-                CEngineInputCommand, CWaterlineInputCommand>();
+                CEngineInputCommand, CWaterlineInputCommand, CRunCommand, CCompleteCommand, CRestoreCommand,
+                CReportCommand, CPagesCommand, CSummaryCommand>();
 }

@@ -18,9 +18,15 @@ constexpr CItem kExitCodes[] = {
     {"0", "Done."},
     {"1", "The command could not do its job; a message says why."},
     {"2", "Wrong usage: an unknown command or option, a missing argument, both --yes and --no."},
+    {"130", "A run was interrupted by Ctrl+C."},
+    {"131", "A run was interrupted by Ctrl+\\."},
+    {"143", "A run was asked to terminate; 129 when its terminal went away."},
 };
 
 constexpr CItem kEnvironment[] = {
+    {"ONDARA_PROGRAMS",
+     "Folder of the bundled programs, in which the engine is looked for when the base folder "
+     "has none; default the folder of this program."},
     {"XDG_CONFIG_HOME", "Folder of the user's settings; default .config in the folder that HOME names."},
 };
 
@@ -28,12 +34,19 @@ constexpr CItem kFiles[] = {
     {"*.od7", "Project files."},
     {"*.od7~", "The last content of a project file, after a disk had no room for all of the new one."},
     {"Ondara7.inp", "The engine's input, in the base folder."},
+    {"OE7.exe, OE7", "The engine, in the base folder or with the bundled programs."},
+    {"ondara7.bin", "The engine's results; after a good run the results file, in the base folder."},
+    {"ondara7.out, ondara7.log", "The engine's listing and its log, in the base folder."},
     {"RudderGain.inp, FinGain.inp", "Copies of the gain files that a project uses, in the base folder."},
-    {"Larkfield Marine Limited/Ondara.ini", "The settings store in the folder of the user's settings, shared "
-                                            "with the desktop program: the list of recent files."},
+    {"*.tv7", "Results files."},
+    {"oview.html", "The output report, in the base folder."},
+    {"Larkfield Marine Limited/Ondara.ini",
+     "The settings store in the folder of the user's settings, shared "
+     "with the desktop program: the list of recent files, the last results file."},
 };
 
 constexpr CItem kExamples[] = {
+    {"ondara-cli run ship.od7 --results ship.tv7", "Runs a calculation and keeps its results."},
     {"ondara-cli convert --half geometry --onto sea.od7 ship.od7 both.od7",
      "Joins the ship of one project with the sea of another."},
     {"ondara-cli dump ship.od7", "Shows what a project holds."},

@@ -15,8 +15,9 @@ using testing::StartsWith;
 
 namespace
 {
-constexpr const char* kCommands[] = {"new",          "dump",           "convert", "units", "import-offsets",
-                                     "engine-input", "waterline-input"};
+constexpr const char* kCommands[] = {
+    "new", "dump",     "convert", "units",  "import-offsets", "engine-input", "waterline-input",
+    "run", "complete", "restore", "report", "pages",          "summary"};
 
 /// A run that was told how the program is used.
 CCliRun Misused(const std::string& fault)
@@ -115,10 +116,7 @@ TEST(CommandLine, HelpOfTheProgramNamesItsOptionsAndCommands)
     {
         EXPECT_THAT(run.Output, HasSubstr("\n  " + command + " "));
     }
-    for (const std::string command : {"check", "run", "complete", "restore", "report", "pages", "summary"})
-    {
-        EXPECT_THAT(run.Output, Not(HasSubstr("\n  " + command + " ")));
-    }
+    EXPECT_THAT(run.Output, Not(HasSubstr("\n  check ")));
 }
 
 TEST(CommandLine, EveryCommandHasHelp)

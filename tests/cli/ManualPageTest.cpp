@@ -35,13 +35,14 @@ TEST(ManualPage, TellsOfEveryCommandAndOption)
 {
     const std::string page = Page();
     for (const std::string command :
-         {"new", "dump", "convert", "units", "import\\-offsets", "engine\\-input", "waterline\\-input"})
+         {"new", "dump", "convert", "units", "import\\-offsets", "engine\\-input", "waterline\\-input", "run",
+          "complete", "restore", "report", "pages", "summary"})
     {
         EXPECT_THAT(page, HasSubstr("\n.SS " + command + "\n\\fB" + command + "\\fR \\fI"));
     }
     for (const std::string option :
          {"\\-h,\\-\\-help", "\\-\\-base\\-dir", "\\-\\-yes", "\\-\\-no", "\\-\\-profile", "\\-\\-version",
-          "\\-\\-half", "\\-\\-onto", "\\-\\-to"})
+          "\\-\\-half", "\\-\\-onto", "\\-\\-to", "\\-\\-results", "\\-\\-save"})
     {
         EXPECT_THAT(page, HasSubstr("\n.TP\n\\fB" + option + "\\fR"));
     }
