@@ -1,43 +1,21 @@
-// How long loading, saving and writing the engine's input take for the largest project, each beside its
-// yardstick. Times are medians of several runs, in real time, since part of each is the disk's.
+// How long loading, saving and writing the engine's input take for the largest project, and completing,
+// reading and reporting for the largest results file, each beside its yardstick. Times are medians of several
+// runs, in real time, since part of each is the disk's.
 #include "bench/CBenchProject.h"
+#include "bench/CBenchResults.h"
 #include "bench/CRatioReporter.h"
+#include "bench/Compare.h"
 #include "bench/Yardstick.h"
 #include "core/engine/CEngineInputWriter.h"
 #include "core/platform/Files.h"
 
 #include <benchmark/benchmark.h>
 
-#include <functional>
+#include <filesystem>
 #include <iostream>
 
 namespace
 {
-constexpr int kRuns = 15;
-
-/// A step of the program, and the yardstick of the same step.
-void Compare(const std::string& name, const std::function<void()>& program,
-             const std::function<void()>& yardstick)
-{
-    for (const auto& [part, step] : {std::pair("/program", program), std::pair("/yardstick", yardstick)})
-    {
-        benchmark::RegisterBenchmark((name + part).c_str(),
-                                     [step = step](benchmark::State& state)
-                                     {
-                                         for (auto iteration : state)
-                                         {
-                                             static_cast<void>(iteration);
-                                             step();
-                                         }
-                                     })
-            ->Unit(benchmark::kMicrosecond)
-            ->UseRealTime()
-            ->MinTime(0.05)
-            ->Repetitions(kRuns)
-            ->ReportAggregatesOnly();
-    }
-}
-
 void CompareReading(CBenchProject& project, const CYardstick& yardstick, const std::string& text)
 {
     Compare(
@@ -77,6 +55,50 @@ void CompareEngineInput(CBenchProject& project, CYardstick& yardstick)
             WriteBytes(JoinPath(project.Folder, "yardstick.inp"), yardstick.Copy());
         });
 }
+
+/// A report's numbers stand between tags.
+constexpr std::string_view kReportSeparators = " \n<>";
+
+void CompareCompletion(const std::string& name, CBenchResults& results, const CYardstick& listing)
+{
+    Compare(
+        name, [&] { results.Complete(); },
+        [&]
+        {
+            const std::string copy = JoinPath(results.Project.Folder, "yardstick.out");
+            WriteBytes(JoinPath(results.Project.Folder, "yardstick.bin"), results.Binary);
+            WriteBytes(copy, results.Listing);
+            benchmark::DoNotOptimize(listing.ReadNumbers(ReadBytes(copy)));
+        },
+        kRunsOfLongSteps);
+}
+
+void CompareResults(CBenchResults& results, CYardstick& report)
+{
+    Compare(
+        "Reading the results", [&] { results.ReadWhole(); },
+        [&] { benchmark::DoNotOptimize(SumAsFloats(results.Path)); });
+    Compare(
+        "Writing the whole report", [&] { results.WriteReport(); },
+        [&]
+        {
+            benchmark::DoNotOptimize(report.WriteNumbers());
+            WriteBytes(JoinPath(results.Project.Folder, "yardstick.html"), report.Copy());
+        },
+        kRunsOfLongSteps);
+}
+
+/// What a report of the command line takes at most, as a process of its own.
+void TellMemory(const CBenchResults& results, const std::string& program)
+{
+    const double file = static_cast<double>(ReadBytes(results.Path).size()) / (1 << 20);
+    const double peak = PeakMemory({program, "--base-dir", results.Project.Folder, "--profile",
+                                    JoinPath(results.Project.Folder, "profile.ini"), "report", results.Path});
+    std::cout << FormatText(
+        "Results file: %.1f MiB; peak memory of the whole report: %.1f MiB, twice the file and "
+        "64 MiB are %.1f MiB\n",
+        file, peak, 2 * file + 64);
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -100,6 +122,21 @@ int main(int argc, char** argv)
     CompareReading(project, fileYardstick, text);
     CompareSaving(project, fileYardstick);
     CompareEngineInput(project, inputYardstick);
+
+    CBenchResults half(kMaxSpeeds / 2);
+    CBenchResults results;
+    results.Complete();
+    TellMemory(results, std::filesystem::path(argv[0]).replace_filename("ondara-cli"));
+    results.WriteReport();
+    const CYardstick halfListing(half.Listing);
+    const CYardstick listing(results.Listing);
+    CYardstick report(ReadBytes(results.ReportPath), kReportSeparators);
+    std::cout << "Listing: " << results.Listing.size() << " bytes, " << listing.NumberCount()
+              << " numbers; report: " << report.Text().size() << " bytes, " << report.NumberCount()
+              << " numbers\n";
+    CompareCompletion("Completing, half the speeds", half, halfListing);
+    CompareCompletion("Completing the results", results, listing);
+    CompareResults(results, report);
     CRatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();

@@ -42,9 +42,8 @@ void WriteTo(int handle, const std::string& path, std::string_view bytes)
 }
 } // namespace
 
-CYardstick::CYardstick(std::string_view text) : m_text(text)
+CYardstick::CYardstick(std::string_view text, std::string_view separators) : m_text(text)
 {
-    constexpr std::string_view separators = " \n";
     for (std::size_t begin = text.find_first_not_of(separators); begin != std::string_view::npos;)
     {
         const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());

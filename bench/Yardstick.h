@@ -10,8 +10,8 @@
 class CYardstick
 {
 public:
-    /// Takes the numbers of a text: all tokens between blanks and line ends that are one as a whole.
-    explicit CYardstick(std::string_view text);
+    /// Takes the numbers of a text: all tokens between separators that are one as a whole.
+    explicit CYardstick(std::string_view text, std::string_view separators = " \n");
 
     /// Reads each of the numbers from bytes that are those of the text. Gives their sum, so that none is left
     /// out.
@@ -21,6 +21,7 @@ public:
     std::size_t WriteNumbers();
 
     std::size_t NumberCount() const { return m_numbers.size(); }
+    std::string_view Text() const { return m_text; }
     /// The text, as WriteNumbers copied it.
     std::string_view Copy() const { return m_copy; }
 

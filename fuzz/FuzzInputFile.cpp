@@ -1,6 +1,7 @@
 // Any bytes as a project file, and all that the program does with what was read. The first byte picks the
 // half.
 #include "fuzz/CFuzzProject.h"
+#include "fuzz/CScratchFolder.h"
 #include "fuzz/FuzzTarget.h"
 
 #include "core/engine/CEngineInputWriter.h"
@@ -8,41 +9,10 @@
 #include "core/project/UnitConversion.h"
 
 #include <array>
-#include <filesystem>
 #include <string>
-
-#include <unistd.h>
 
 namespace
 {
-namespace fs = std::filesystem;
-
-/// The folder that the engine's input is written to: in memory where the system has such a one. Made once.
-class CScratchFolder
-{
-public:
-    CScratchFolder() : m_path("/dev/shm/ondara-fuzz-XXXXXX")
-    {
-        if (::mkdtemp(m_path.data()) == nullptr)
-        {
-            m_path = fs::temp_directory_path() / "ondara-fuzz-XXXXXX";
-            Require(::mkdtemp(m_path.data()) != nullptr, "there is a folder for the engine's input");
-        }
-    }
-    ~CScratchFolder()
-    {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    CScratchFolder(const CScratchFolder&) = delete;
-    CScratchFolder& operator=(const CScratchFolder&) = delete;
-
-    const std::string& Path() const { return m_path; }
-
-private:
-    std::string m_path;
-};
-
 constexpr std::array<EHalf, 3> kHalves = {EHalf::Both, EHalf::Geometry, EHalf::Environment};
 
 /// A failed read shows its one message, any other none.
