@@ -2,16 +2,11 @@
 
 #include "core/platform/NumberText.h"
 #include "core/project/CParamArray.h"
+#include "core/project/UnitFactors.h"
 
 namespace
 {
-// The engine's factors are single-precision numbers, though the products are double.
-constexpr float kFeetPerMetre = 3.28084F;
-constexpr float kMetresPerFoot = 0.3048F;
-constexpr float kLongTonsPerTonne = 0.9842065F;
-constexpr float kTonnesPerLongTon = 1.0160469F;
-constexpr float kKnotsPerMetrePerSecond = 1.9438462F;
-
+// The products are double, though the factors are single-precision numbers.
 struct CFactors
 {
     float ToBritish;

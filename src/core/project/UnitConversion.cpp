@@ -1,5 +1,7 @@
 #include "core/project/UnitConversion.h"
 
+#include "core/project/UnitFactors.h"
+
 #include <span>
 #include <utility>
 
@@ -18,11 +20,14 @@ struct CFactors
     float ToMetric;
 };
 
+/// Here one step in the last place larger than in the engine's files.
+constexpr float kTonnesOfLongTon = 1.016047F;
+
 /// By EQuantity. The two of a pair are no exact inverses of each other.
 constexpr CFactors kFactors[] = {
-    {3.28084F, 0.3048F},     // metres, feet
-    {0.9842065F, 1.016047F}, // tonnes, long tons
-    {0.3048F, 3.28084F},     // per metre, per foot
+    {kFeetPerMetre, kMetresPerFoot},
+    {kLongTonsPerTonne, kTonnesOfLongTon},
+    {kMetresPerFoot, kFeetPerMetre}, // per metre, per foot
 };
 
 /// A keyword field and the field whose flag tells its system.

@@ -1,18 +1,12 @@
 #include "core/results/EchoUnits.h"
 
+#include "core/project/UnitFactors.h"
 #include "core/results/RunValues.h"
 
 #include <utility>
 
 namespace
 {
-constexpr float kFeetPerMetre = 3.28084F;
-constexpr float kMetresPerFoot = 0.3048F;
-constexpr float kLongTonsPerTonne = 0.9842065F;
-constexpr float kTonnesPerLongTon = 1.0160469F;
-constexpr float kKnotsPerMetrePerSecond = 1.9438462F;
-constexpr float kMetresPerSecondPerKnot = 0.514444F;
-
 /// Of a value that is in the other unit than the run, by the system of the run.
 struct CFactors
 {

@@ -1,5 +1,7 @@
 #include "core/results/report/CReport.h"
 
+#include "core/project/UnitFactors.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -10,10 +12,6 @@ namespace
 {
 constexpr int kMetric = 1; ///< of INSYS and OUTSYS
 constexpr int kBritish = 0;
-constexpr float kFeetInMetre = 3.2808399F;
-constexpr float kMetresInFoot = 0.3048F;
-constexpr float kLongTonsInTonne = 0.98420650F;
-constexpr float kTonnesInLongTon = 1.0160469F;
 
 constexpr float kLeastVelocity = 0.0001F;
 constexpr float kCircle = 6.2832F;
@@ -197,12 +195,12 @@ bool CReport::MetricOutput() const
 
 float CReport::LengthOut(float value) const
 {
-    return value * OutputFactor(*Results.Input, kFeetInMetre, kMetresInFoot);
+    return value * OutputFactor(*Results.Input, kFeetPerMetre, kMetresPerFoot);
 }
 
 float CReport::MassOut(float value) const
 {
-    return value * OutputFactor(*Results.Input, kLongTonsInTonne, kTonnesInLongTon);
+    return value * OutputFactor(*Results.Input, kLongTonsPerTonne, kTonnesPerLongTon);
 }
 
 const char* CReport::SeasName() const
@@ -217,7 +215,7 @@ const char* CReport::SeasName() const
 int CReport::SeaStateOf(int seaway) const
 {
     const float height = Results.Body.WaveHeights[static_cast<std::size_t>(seaway)];
-    return SeaState(static_cast<double>(MetricOutput() ? height : height * kMetresInFoot));
+    return SeaState(static_cast<double>(MetricOutput() ? height : height * kMetresPerFoot));
 }
 
 float CReport::WaveSlope() const
