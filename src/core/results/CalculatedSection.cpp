@@ -1,18 +1,16 @@
 #include "core/results/CalculatedSection.h"
 
 #include "core/results/CResultsCursor.h"
+#include "core/results/CalculatedFormat.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace
 {
-constexpr int kTagData = 26;   ///< what the tag announces follows
-constexpr int kTagNoData = 27; ///< nothing follows
 constexpr std::size_t kWord = 4;
 
 constexpr int kDampingColumns = 10;
-constexpr int kBreakdownColumns = 3; ///< in front of the appendages
 constexpr int kInterruptionColumns = 6;
 constexpr int kMotionColumns = 7;   ///< of a slamming row, in front of its tag
 constexpr int kUnshownColumns = 2;  ///< behind the tag

@@ -7,11 +7,6 @@
 
 #include <array>
 
-/// Spectra with sea directions of their own have fixed counts of headings behind the data per frequency: one
-/// until the first loads of a speed, another from them on.
-constexpr int kHeadingsBeforeLoads = 13;
-constexpr int kHeadingsFromLoadsOn = 24;
-
 /// How many appendages have a column in the two breakdown tables; the skeg has none in the viscous one.
 int LiftAppendages(const CControlSection& control);
 int ViscousAppendages(const CControlSection& control);

@@ -1,24 +1,14 @@
 // The blocks of the speeds in the calculated section.
 #include "core/results/CListingScrape.h"
+#include "core/results/CalculatedFormat.h"
 #include "core/results/ResultsLimits.h"
 
 namespace
 {
-// Spectra with directions of their own: headings in the tables of a heading and of a position, and in those
-// of a load station.
-constexpr int kDirectionalHeadings = 13;
-constexpr int kDirectionalLoadHeadings = 24;
-constexpr float kDirectionalStep = 15; ///< degrees
+constexpr float kDirectionalStep = 15; ///< degrees between the directions that a spectrum brings
 
 constexpr int kGreatestHeading =
     180; ///< degrees: the listing has no tables per frequency behind the first one above
-
-// Words in front of a block that may be absent, and of one that may be longer.
-constexpr int kBlockThere = 26;
-constexpr int kBlockAbsent = 27;
-
-/// Wave frequency, encounter frequency and roll angle, in front of the appendages.
-constexpr int kBreakdownColumns = 3;
 
 constexpr int kFieldsBeforeEncounter = 7;
 constexpr std::size_t kEncounterWidth = 5;
@@ -30,8 +20,8 @@ void CListingScrape::Speed()
 {
     if (IsDirectional(m_spectrum))
     {
-        m_headings = kDirectionalHeadings;
-        for (int k = 0; k < kDirectionalHeadings; ++k)
+        m_headings = kHeadingsBeforeLoads;
+        for (int k = 0; k < kHeadingsBeforeLoads; ++k)
         {
             m_project.SEADIR.Set(k, kDirectionalStep * static_cast<float>(k));
         }
@@ -151,10 +141,10 @@ void CListingScrape::Breakdown()
                         p.NFINPAIR.Count(kMaxFinPairs);
     if (columns == kBreakdownColumns)
     {
-        m_bytes.Integer(kBlockAbsent);
+        m_bytes.Integer(kTagNoData);
         return;
     }
-    m_bytes.Integer(kBlockThere);
+    m_bytes.Integer(kTagData);
     BreakdownTable(columns);
     BreakdownTable(columns - skegs);
 }
@@ -259,7 +249,7 @@ void CListingScrape::Slamming()
         m_listing.ReadLine();
         CTokens words = m_listing.Tokens();
         Take(words, 7);
-        m_bytes.Integer(kBlockThere);
+        m_bytes.Integer(kTagData);
         Take(words, 6);
     }
 }
@@ -278,7 +268,7 @@ void CListingScrape::LoadStation()
     m_listing.ReadLines(6);
     if (IsDirectional(m_spectrum))
     {
-        m_headings = kDirectionalLoadHeadings;
+        m_headings = kHeadingsFromLoadsOn;
     }
     TakeRows(m_headings, {2, 4, 5, 7, 8, 10, 11, 13, 14, 16});
 }

@@ -245,16 +245,6 @@ void CSeasCase::Integer(int value)
     Results.Bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
 }
 
-int Occurrences(const std::string& text, const std::string& piece)
-{
-    int count = 0;
-    for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + piece.size()))
-    {
-        ++count;
-    }
-    return count;
-}
-
 std::string LinesBetween(const std::string& text, const std::string& from, const std::string& to)
 {
     std::istringstream lines(text);

@@ -60,8 +60,6 @@ private:
     bool m_filled = false;
 };
 
-/// How often a piece stands in a text.
-int Occurrences(const std::string& text, const std::string& piece);
 /// The lines from the first one that is `from` up to and with the next one that is `to`.
 std::string LinesBetween(const std::string& text, const std::string& from, const std::string& to);
 /// The line behind the first one that is `line`.

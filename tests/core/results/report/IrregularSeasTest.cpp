@@ -1,6 +1,7 @@
 #include "core/results/report/IrregularSeas.h"
 
 #include "core/results/CResultsCursor.h"
+#include "tests/core/results/report/CReportCase.h"
 #include "tests/core/results/report/CSeasCase.h"
 
 #include <gmock/gmock.h>
@@ -127,11 +128,11 @@ TEST_P(IrregularSeas, EachSpeedHasItsAnchorOnceBehindTheBreakOfItsFirstPage)
     m_case.SetSpeeds({5, 15});
     m_case.SetSeaways({1, 2});
     const std::string text = Write();
-    EXPECT_EQ(Occurrences(text, Anchor(1)), 1);
-    EXPECT_EQ(Occurrences(text, Anchor(2)), 1);
+    EXPECT_EQ(CountOf(text, Anchor(1)), 1);
+    EXPECT_EQ(CountOf(text, Anchor(2)), 1);
     EXPECT_THAT(text, HasSubstr("<I>north.od7</I><BR><BR>\n" + Anchor(1) + "\n<"));
     EXPECT_THAT(text, HasSubstr(std::string(kBreakLine) + "\n" + Anchor(2) + "\n<CENTER>"));
-    EXPECT_EQ(Occurrences(text, "<a NAME="), 3);
+    EXPECT_EQ(CountOf(text, "<a NAME="), 3);
 }
 
 TEST_P(IrregularSeas, SpeedsAndSeawaysComeInTheOrderOfTheSelection)
@@ -169,12 +170,12 @@ TEST_P(IrregularSeas, EveryPageButTheFirstBeginsWithABreakAndTheBanner)
     m_case.Add(WithEverything("Bow"));
     m_case.SetLoadStations({5, 10});
     const std::string text = Write();
-    EXPECT_EQ(Occurrences(text, kBreakLine) + 1, Occurrences(text, "IRREGULAR SEAS RESPONSE"));
+    EXPECT_EQ(CountOf(text, kBreakLine) + 1, CountOf(text, "IRREGULAR SEAS RESPONSE"));
     // The centre of gravity or the shears have pages of their own.
     const bool loads = GetParam().Write == RmsLoadsSection;
     const bool rms = GetParam().Write == RmsSection;
     const int pages = loads ? 16 : rms ? 12 : 8;
-    EXPECT_EQ(Occurrences(text, kBreakLine), pages - 1);
+    EXPECT_EQ(CountOf(text, kBreakLine), pages - 1);
     EXPECT_FALSE(text.find(std::string(kBreakLine) + "\n<BR><b><i>") != std::string::npos);
 }
 
@@ -183,7 +184,7 @@ TEST_P(IrregularSeas, SectionEndsWithTheLinkToTheContents)
     const std::string text = Write();
     EXPECT_TRUE(text.ends_with("</td></tr></TABLE><BR>\n"
                                "<BR><b><i><a HREF=\"#TOC\">To the Table of Contents</a></i></b>\n"));
-    EXPECT_EQ(Occurrences(text, "#TOC"), 1);
+    EXPECT_EQ(CountOf(text, "#TOC"), 1);
 }
 
 TEST_P(IrregularSeas, StationsAreNumberedFromTheEndThatTheProjectAtHandNames)
@@ -203,7 +204,7 @@ TEST_P(IrregularSeas, SpeedWithoutAPageHasItsAnchor)
     m_case.Project.SelectedSeaways = {};
     const std::string text = Write();
     EXPECT_THAT(text, HasSubstr(Anchor(1) + "\n" + Anchor(2) + "\n<BR><b><i>"));
-    EXPECT_EQ(Occurrences(text, kBreakLine), 0);
+    EXPECT_EQ(CountOf(text, kBreakLine), 0);
 }
 
 TEST_P(IrregularSeas, CalculatedSectionThatEndsTooEarlyIsAnError)

@@ -1,3 +1,4 @@
+#include "tests/core/results/report/CReportCase.h"
 #include "tests/core/results/report/CSeasCase.h"
 #include "tests/support/CTestFolder.h"
 
@@ -19,8 +20,8 @@ TEST(RmsLoadsSection, UnitsHaveABlankInTheBritishSystem)
     seas.SetLoadStations({5});
     seas.Results.Input->OUTSYS.Set(0);
     const std::string text = seas.Section(RmsLoadsSection);
-    EXPECT_EQ(Occurrences(text, "<TD>(10^3 ft-lb)</TD>"), 3);
-    EXPECT_EQ(Occurrences(text, "<TD>(10^3 lb)</TD>"), 2);
+    EXPECT_EQ(CountOf(text, "<TD>(10^3 ft-lb)</TD>"), 3);
+    EXPECT_EQ(CountOf(text, "<TD>(10^3 lb)</TD>"), 2);
     EXPECT_THAT(text, Not(HasSubstr("kN")));
 }
 
@@ -65,6 +66,6 @@ TEST(RmsLoadsSection, HeadingsWithoutDataOfADirectionalSpectrumHaveNoRows)
     seas.Results.Head.SpectrumKind = kSpectrumHindcast;
     seas.RowsOfLoads = 24;
     const std::string text = seas.Section(RmsLoadsSection);
-    EXPECT_EQ(Occurrences(text, "<TR> <TD>115</TD>\n"), 2);
-    EXPECT_EQ(Occurrences(text, "<TR> <TD>120</TD>\n"), 0);
+    EXPECT_EQ(CountOf(text, "<TR> <TD>115</TD>\n"), 2);
+    EXPECT_EQ(CountOf(text, "<TR> <TD>120</TD>\n"), 0);
 }

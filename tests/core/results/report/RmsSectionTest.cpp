@@ -1,3 +1,4 @@
+#include "tests/core/results/report/CReportCase.h"
 #include "tests/core/results/report/CSeasCase.h"
 #include "tests/support/CTestFolder.h"
 
@@ -20,7 +21,7 @@ constexpr const char* kLongitudinal = "<B>Longitudinal Components</B><BR>";
 /// Page breaks between two lines.
 int BreaksBetween(const std::string& text, const char* from, const char* to)
 {
-    return Occurrences(LinesBetween(text, from, to), kBreakLine);
+    return CountOf(LinesBetween(text, from, to), kBreakLine);
 }
 
 /// One position and so many headings.
@@ -100,7 +101,7 @@ TEST(RmsSection, UpToSixteenHeadingsBreakOnTheFirstSeawayOfTheSelectionOnly)
     seas.Project.SelectedSeaways = {1, 0};
     const std::string text = seas.Section(RmsSection);
     // Eight pages, and on both speeds' first seaway one more at the centre of gravity and at the position.
-    EXPECT_EQ(Occurrences(text, kBreakLine), 7 + 4);
+    EXPECT_EQ(CountOf(text, kBreakLine), 7 + 4);
     const std::size_t firstSeaway = text.find("<B>2.00</B> meters");
     const std::size_t secondSeaway = text.find("<B>1.00</B> meters");
     ASSERT_LT(firstSeaway, secondSeaway);
@@ -113,7 +114,7 @@ TEST(RmsSection, SeventeenHeadingsBreakOnEverySeaway)
 {
     CHeadingsCase seas(17);
     seas.SetSeaways({1, 2});
-    EXPECT_EQ(Occurrences(seas.Section(RmsSection), kBreakLine), 3 + 8);
+    EXPECT_EQ(CountOf(seas.Section(RmsSection), kBreakLine), 3 + 8);
 }
 
 TEST(RmsSection, PageThatGoesOnHasBannerAndFrameAgain)
@@ -122,19 +123,19 @@ TEST(RmsSection, PageThatGoesOnHasBannerAndFrameAgain)
     const std::string text = seas.Section(RmsSection);
     const std::string speed =
         R"(<TR> <TD>Speed:</TD> <TD><B>15</B> knots</TD> <TD>Spectrum Name:</TD> <TD><B>JONSWAP</B></TD> </TR>)";
-    EXPECT_EQ(Occurrences(text, "IRREGULAR SEAS RESPONSE"), 6);
-    EXPECT_EQ(Occurrences(text, speed), 6);
-    EXPECT_EQ(Occurrences(text, "<TD>Sea State:</TD>"), 6);
-    EXPECT_EQ(Occurrences(text, "<TD>Label:</TD> <TD><B>Bow</B></TD>"), 3);
-    EXPECT_EQ(Occurrences(text, "RMS Data: Centre of Gravity"), 1);
-    EXPECT_EQ(Occurrences(text, "RMS Data: Local Output"), 1);
+    EXPECT_EQ(CountOf(text, "IRREGULAR SEAS RESPONSE"), 6);
+    EXPECT_EQ(CountOf(text, speed), 6);
+    EXPECT_EQ(CountOf(text, "<TD>Sea State:</TD>"), 6);
+    EXPECT_EQ(CountOf(text, "<TD>Label:</TD> <TD><B>Bow</B></TD>"), 3);
+    EXPECT_EQ(CountOf(text, "RMS Data: Centre of Gravity"), 1);
+    EXPECT_EQ(CountOf(text, "RMS Data: Local Output"), 1);
 }
 
 TEST(RmsSection, WithoutPositionsNothingStandsBehindTheAccelerations)
 {
     CSeasCase seas;
     const std::string text = seas.Section(RmsSection);
-    EXPECT_EQ(Occurrences(text, kBreakLine), 0);
+    EXPECT_EQ(CountOf(text, kBreakLine), 0);
     EXPECT_THAT(text, Not(HasSubstr("Local Output")));
     EXPECT_THAT(text, HasSubstr("</TR>\n</TABLE>\n</td></tr></TABLE><BR>\n<BR><b><i>"));
 }
@@ -144,7 +145,7 @@ TEST(RmsSection, HeadingsAbove180HaveRows)
     CSeasCase seas;
     seas.SetHeadings(36);
     seas.Results.Body.Headings[35] = 270;
-    EXPECT_EQ(Occurrences(seas.Section(RmsSection), "<TR> <TD>270</TD>\n"), 3);
+    EXPECT_EQ(CountOf(seas.Section(RmsSection), "<TR> <TD>270</TD>\n"), 3);
 }
 
 TEST(RmsSection, SeasAreNamedByTheAngleThenByTheSpectrum)
@@ -157,7 +158,7 @@ TEST(RmsSection, SeasAreNamedByTheAngleThenByTheSpectrum)
         seas.Results.Head.SpreadAngle = angle;
         seas.RowsOfPositions = 13;
         const std::string text = seas.Section(RmsSection);
-        EXPECT_EQ(Occurrences(text, std::string("RMS RESPONSES - ") + name + "</B></CENTER>\n"), 2);
+        EXPECT_EQ(CountOf(text, std::string("RMS RESPONSES - ") + name + "</B></CENTER>\n"), 2);
         EXPECT_THAT(text, HasSubstr(std::string("<B>RMS Data: Centre of Gravity - ") + name + "</B><BR>\n"));
         EXPECT_THAT(text, HasSubstr(std::string("<B>RMS Data: Local Output - ") + name + "</B><BR>\n"));
     };

@@ -1,3 +1,4 @@
+#include "tests/core/results/report/CReportCase.h"
 #include "tests/core/results/report/CSeasCase.h"
 #include "tests/support/CTestFolder.h"
 
@@ -55,8 +56,8 @@ TEST(SlammingSection, PositionWithoutRelativeMotionIsPassedOver)
     seas.Add(OfKind("Stern", 4));
     const std::string text = seas.Section(SlammingSection);
     EXPECT_THAT(text, Not(HasSubstr("<B>Bow</B>")));
-    EXPECT_EQ(Occurrences(text, "<B>Stern</B>"), 1);
-    EXPECT_EQ(Occurrences(text, kBreakLine), 0);
+    EXPECT_EQ(CountOf(text, "<B>Stern</B>"), 1);
+    EXPECT_EQ(CountOf(text, kBreakLine), 0);
 }
 
 TEST(SlammingSection, KindThatIsNoneOfTheFiveIsPassedOver)
@@ -114,7 +115,7 @@ TEST(SlammingSection, OnlyRowsThatTheFileHasAreWritten)
     seas.Results.Head.SpectrumKind = kSpectrumTenParameter;
     seas.RowsOfPositions = 13;
     const std::string text = seas.Section(SlammingSection);
-    EXPECT_EQ(Occurrences(text, "<TR> <TD>4"), 13);
+    EXPECT_EQ(CountOf(text, "<TR> <TD>4"), 13);
 }
 
 TEST(SlammingSection, FroudeNumberIsThatOfTheFirstHeadingUpTo180)
