@@ -2,17 +2,21 @@
 # include root of its own that holds nothing but a link to it or to its headers, so that any other include fails to
 # compile.
 
-# ondara_layer(FOLDER [DEPENDS FOLDER...] [LIBRARIES TARGET...]): all sources of src/FOLDER, as an object library.
+# ondara_layer(FOLDER [ROOT DIRECTORY] [DEPENDS FOLDER...] [LIBRARIES TARGET...]): all sources of DIRECTORY/FOLDER, src/
+# by default, as an object library.
 function(ondara_layer folder)
-    cmake_parse_arguments(LAYER "" "" "DEPENDS;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(LAYER "" "ROOT" "DEPENDS;LIBRARIES" ${ARGN})
+    if(NOT LAYER_ROOT)
+        set(LAYER_ROOT ${PROJECT_SOURCE_DIR}/src)
+    endif()
     string(REPLACE "/" "_" target ${folder})
-    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
-                                        ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+    file(GLOB sources CONFIGURE_DEPENDS ${LAYER_ROOT}/${folder}/*.cpp
+                                        ${LAYER_ROOT}/${folder}/*.h)
     set(root ${PROJECT_BINARY_DIR}/layers/${target})
     get_filename_component(parent ${root}/${folder} DIRECTORY)
     file(MAKE_DIRECTORY ${parent})
-    file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
-    file(GLOB nested ${PROJECT_SOURCE_DIR}/src/${folder}/*/*.h)
+    file(GLOB headers CONFIGURE_DEPENDS ${LAYER_ROOT}/${folder}/*.h)
+    file(GLOB nested ${LAYER_ROOT}/${folder}/*/*.h)
     if(nested)
         # A folder inside is a layer of its own, so that only the headers beside it are linked.
         if(IS_SYMLINK ${root}/${folder})
@@ -24,7 +28,7 @@ function(ondara_layer folder)
             file(CREATE_LINK ${header} ${root}/${folder}/${name} SYMBOLIC)
         endforeach()
     else()
-        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+        file(CREATE_LINK ${LAYER_ROOT}/${folder} ${root}/${folder} SYMBOLIC)
     endif()
 
     add_library(${target} OBJECT ${sources})

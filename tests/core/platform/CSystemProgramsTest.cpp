@@ -2,6 +2,7 @@
 
 #include "core/platform/Files.h"
 #include "tests/support/CTestFolder.h"
+#include "tests/support/CVariable.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -17,35 +18,6 @@ using testing::ElementsAre;
 
 namespace
 {
-/// Sets an environment variable for as long as it lives.
-class CVariable
-{
-public:
-    CVariable(const char* name, const std::string& value) : m_name(name)
-    {
-        const char* before = std::getenv(name);
-        m_before = before != nullptr ? std::optional<std::string>(before) : std::nullopt;
-        ::setenv(name, value.c_str(), 1);
-    }
-    ~CVariable()
-    {
-        if (m_before)
-        {
-            ::setenv(m_name, m_before->c_str(), 1);
-        }
-        else
-        {
-            ::unsetenv(m_name);
-        }
-    }
-    CVariable(const CVariable&) = delete;
-    CVariable& operator=(const CVariable&) = delete;
-
-private:
-    const char* m_name;
-    std::optional<std::string> m_before;
-};
-
 void WriteProgram(const CTestFolder& folder, const std::string& name, const std::string& script)
 {
     fs::permissions(folder.Write(name, "#!/bin/sh\n" + script + "\n"), fs::perms::owner_all);
