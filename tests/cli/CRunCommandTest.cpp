@@ -4,6 +4,7 @@
 #include "core/results/CResultsCommands.h"
 #include "core/results/LastLoadName.h"
 #include "tests/cli/CEngineCliTest.h"
+#include "tests/support/CVariable.h"
 
 #include <chrono>
 #include <csignal>
@@ -176,6 +177,7 @@ TEST(CliRun, AMissingLogIsToldAfterAGoodRun)
 TEST(CliRun, AMissingEngineIsToldWithThePlacesWhereItWasLookedFor)
 {
     CEngineCliTest test;
+    const CVariable noPrograms("ONDARA_PROGRAMS", test.Settings.Path()); // the bundled engine isn't there
     fs::remove(test.Folder.File("OE7"));
     std::string places;
     for (const std::string& place :
