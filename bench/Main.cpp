@@ -1,6 +1,7 @@
-// How long loading, saving and writing the engine's input take for the largest project, and completing,
-// reading and reporting for the largest results file, each beside its yardstick. Times are medians of several
-// runs, in real time, since part of each is the disk's.
+// How long loading, saving and writing the engine's input take for the largest project, completing, reading
+// and reporting for the largest results file, and a large run of the bundled engine, each beside its
+// yardstick. Times are medians of several runs, in real time, since part of each is the disk's.
+#include "bench/CBenchEngine.h"
 #include "bench/CBenchProject.h"
 #include "bench/CBenchResults.h"
 #include "bench/CRatioReporter.h"
@@ -99,6 +100,21 @@ void TellMemory(const CBenchResults& results, const std::string& program)
         "64 MiB are %.1f MiB\n",
         file, peak, 2 * file + 64);
 }
+
+void CompareEngine(const CBenchEngine& engine)
+{
+    Compare(
+        "Engine, " + engine.Name, [&] { benchmark::DoNotOptimize(engine.Calculate()); },
+        [&] { benchmark::DoNotOptimize(engine.SolveSections()); }, kRunsOfLongSteps);
+}
+
+/// What the engine takes at most, as a process of its own with all threads of the machine.
+void TellEngineMemory(const CBenchEngine& engine, const std::string& program)
+{
+    std::cout << FormatText(
+        "Peak memory of the engine, %s: %.1f MiB\n", engine.Name.c_str(),
+        PeakMemory({"/bin/sh", "-c", "cd \"$0\" && exec \"$1\"", engine.Project.Folder, program}));
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -126,7 +142,8 @@ int main(int argc, char** argv)
     CBenchResults half(kMaxSpeeds / 2);
     CBenchResults results;
     results.Complete();
-    TellMemory(results, std::filesystem::path(argv[0]).replace_filename("ondara-cli"));
+    const std::filesystem::path programs = std::filesystem::absolute(argv[0]).parent_path();
+    TellMemory(results, programs / "ondara-cli");
     results.WriteReport();
     const CYardstick halfListing(half.Listing);
     const CYardstick listing(results.Listing);
@@ -137,6 +154,14 @@ int main(int argc, char** argv)
     CompareCompletion("Completing, half the speeds", half, halfListing);
     CompareCompletion("Completing the results", results, listing);
     CompareResults(results, report);
+
+    const CBenchEngine elements(oe7::ESectionMethod::BoundaryElement);
+    const CBenchEngine mapping(oe7::ESectionMethod::ConformalMapping);
+    for (const CBenchEngine* engine : {&elements, &mapping})
+    {
+        TellEngineMemory(*engine, programs / "OE7");
+        CompareEngine(*engine);
+    }
     CRatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
