@@ -162,25 +162,26 @@ CHeadingResponse CSpeedCalculation::Response(const CSeaState& sea, int heading,
 {
     const double rollDamping = damping.Components.InEquation();
     CHeadingResponse response;
-    for (int component = 0; component < m_model.Headings.ComponentCount(); ++component)
-    {
-        if (!sea.Contributes(heading, component))
-        {
-            continue;
-        }
-        CComponentResponse& part = response.emplace_back();
-        const std::vector<CWaveCase>& waves = m_waves[Index(component)];
-        for (int refined = 0; refined < static_cast<int>(waves.size()); ++refined)
-        {
-            const CWaveCase& wave = waves[Index(refined)];
-            part.Waves.push_back(wave.Wave);
-            part.Encounter.push_back(wave.Encounter);
-            part.Energy.push_back(sea.Density(heading, component, wave.Wave.Frequency) *
-                                  m_model.Frequencies.Weight(refined));
-            part.Motions.push_back(wave.Motions.At(rollDamping));
-        }
-    }
+    VisitComponents(sea, heading,
+                    [&](int component, const std::vector<CWaveCase>& waves)
+                    {
+                        CComponentResponse& part = response.emplace_back();
+                        for (int refined = 0; refined < static_cast<int>(waves.size()); ++refined)
+                        {
+                            const CWaveCase& wave = waves[Index(refined)];
+                            part.Waves.push_back(wave.Wave);
+                            part.Encounter.push_back(wave.Encounter);
+                            part.Energy.push_back(Energy(sea, heading, component, refined));
+                            part.Motions.push_back(wave.Motions.At(rollDamping));
+                        }
+                    });
     return response;
+}
+
+double CSpeedCalculation::Energy(const CSeaState& sea, int heading, int component, int refined) const
+{
+    const CFrequencies& frequencies = m_model.Frequencies;
+    return sea.Density(heading, component, frequencies.Refined[Index(refined)]) * frequencies.Weight(refined);
 }
 
 CDirectionResults CSpeedCalculation::DirectionResults(int index) const

@@ -41,6 +41,20 @@ private:
     };
 
     bool IsNeeded(int refined) const;
+    /// Calls visit(component, waves) for each component direction of a sea at a reported heading.
+    template <class Visit>
+    void VisitComponents(const CSeaState& sea, int heading, const Visit& visit) const
+    {
+        for (int component = 0; component < m_model.Headings.ComponentCount(); ++component)
+        {
+            if (sea.Contributes(heading, component))
+            {
+                visit(component, m_waves[static_cast<std::size_t>(component)]);
+            }
+        }
+    }
+    /// Of the sea's component in one wave, with the weight of its frequency, m2.
+    double Energy(const CSeaState& sea, int heading, int component, int refined) const;
     void SolveWaves(const CProgress& progress);
     void SolveFrequency(int refined, const std::vector<CControls>& controls);
     CWaveCase Solved(int refined, int component, const CControls& controls) const;

@@ -102,21 +102,16 @@ CEquivalentDamping CSpeedCalculation::InSeaway(const CSeaState& sea, int heading
     const double amplitudePerRms = 1.5 * std::sqrt(std::numbers::pi / 2);
     const double natural = m_model.Inertia.RollFrequency;
     std::vector<CRollPart> parts;
-    for (int component = 0; component < m_model.Headings.ComponentCount(); ++component)
-    {
-        if (!sea.Contributes(heading, component))
+    VisitComponents(
+        sea, heading,
+        [&](int component, const std::vector<CWaveCase>& waves)
         {
-            continue;
-        }
-        const std::vector<CWaveCase>& waves = m_waves[static_cast<std::size_t>(component)];
-        for (int refined = 0; refined < static_cast<int>(waves.size()); ++refined)
-        {
-            const CWaveCase& wave = waves[static_cast<std::size_t>(refined)];
-            parts.push_back(
-                {&wave.Motions, wave.Encounter,
-                 sea.Density(heading, component, wave.Wave.Frequency) * m_model.Frequencies.Weight(refined)});
-        }
-    }
+            for (int refined = 0; refined < static_cast<int>(waves.size()); ++refined)
+            {
+                const CWaveCase& wave = waves[static_cast<std::size_t>(refined)];
+                parts.push_back({&wave.Motions, wave.Encounter, Energy(sea, heading, component, refined)});
+            }
+        });
     double amplitude = 3 * kDegree;
     double frequency = natural;
     for (int round = 0; round < kRounds; ++round)

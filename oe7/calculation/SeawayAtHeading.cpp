@@ -28,24 +28,21 @@ void CSpeedCalculation::LoadResults(const CSeaState& sea, int heading, const CHe
     {
         std::array<CMoments, kLoadComponents> moments;
         auto part = response.begin();
-        for (int component = 0; component < m_model.Headings.ComponentCount(); ++component)
-        {
-            if (!sea.Contributes(heading, component))
-            {
-                continue;
-            }
-            const std::vector<CWaveCase>& waves = m_waves[static_cast<std::size_t>(component)];
-            for (std::size_t refined = 0; refined < waves.size(); ++refined)
-            {
-                const CLoadVector load = waves[refined].Loads[cut].At(part->Motions[refined], hullDamping);
-                for (int i = 0; i < kLoadComponents; ++i)
-                {
-                    moments[static_cast<std::size_t>(i)].Add(std::norm(load(i)), part->Encounter[refined],
-                                                             part->Energy[refined]);
-                }
-            }
-            ++part;
-        }
+        VisitComponents(sea, heading,
+                        [&](int, const std::vector<CWaveCase>& waves)
+                        {
+                            for (std::size_t refined = 0; refined < waves.size(); ++refined)
+                            {
+                                const CLoadVector load =
+                                    waves[refined].Loads[cut].At(part->Motions[refined], hullDamping);
+                                for (int i = 0; i < kLoadComponents; ++i)
+                                {
+                                    moments[static_cast<std::size_t>(i)].Add(
+                                        std::norm(load(i)), part->Encounter[refined], part->Energy[refined]);
+                                }
+                            }
+                            ++part;
+                        });
         auto& found = results.Loads[cut][static_cast<std::size_t>(heading)];
         for (std::size_t i = 0; i < found.size(); ++i)
         {

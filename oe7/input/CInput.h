@@ -17,6 +17,14 @@ constexpr double kTonne = 1000;           ///< kg
 constexpr double kLongTon = 1016.0469;    ///< kg
 constexpr double kPoundForce = 4.4482216; ///< N
 
+/// The 24 directions of directional spectra, and of the ship's courses in them, are 15 degrees apart.
+constexpr int kCompassDirections = 24;
+constexpr double kCompassStep = 15.0; ///< degrees
+
+/// Into how many parts a step of the wave frequencies (rad/s) is divided, so that those computed are at most
+/// 0.025 rad/s apart. A step that is a whole number of these isn't divided further by its rounding.
+int RefinedParts(double step);
+
 enum class EUnits
 {
     British,
@@ -375,7 +383,6 @@ struct CInput
     }
     double Density() const { return Water == EWater::Salt ? 1025.0 : 1000.0; }         ///< kg/m3
     double Viscosity() const { return Water == EWater::Salt ? 1.1883e-6 : 1.1386e-6; } ///< m2/s
-    double StationSpacing() const { return Length / (StationCount - 1); }              ///< m
 };
 
 } // namespace oe7

@@ -14,16 +14,17 @@ namespace oe7
 namespace
 {
 constexpr int kBinaryFileLine = 3;
-constexpr double kFinestStep = 0.025; ///< rad/s, of the computed frequencies
-constexpr double kCourses = 24;       ///< of directional spectra
+constexpr double kLargestStep = 0.025; ///< rad/s, of the computed frequencies
+constexpr double kMostParts = 1000;    ///< a guard against steps that are no frequencies
 
 /// Each count may be sane by itself and all together too many.
 void CheckSize(const CInput& input)
 {
     const auto speeds = static_cast<double>(input.Speeds.size());
-    const double headings = input.IsDirectional() ? kCourses : static_cast<double>(input.Directions.size());
+    const double headings =
+        input.IsDirectional() ? kCompassDirections : static_cast<double>(input.Directions.size());
     const double ofOneSea = input.IsDirectional() || input.SpreadingAngle > 0 ? headings : 1;
-    const double frequencies = input.FrequencyCount * std::ceil(input.FrequencyStep / kFinestStep);
+    const double frequencies = static_cast<double>(input.FrequencyCount) * RefinedParts(input.FrequencyStep);
     const double places = static_cast<double>(input.Positions.size() + input.LoadStations.size()) + 1;
     const double seaResults = speeds * static_cast<double>(input.Seaways.size()) * headings * places;
     if (speeds * headings * frequencies > kMostWaves || headings * frequencies * places > kMostTransfers ||
@@ -35,6 +36,16 @@ void CheckSize(const CInput& input)
     }
 }
 } // namespace
+
+int RefinedParts(double step)
+{
+    if (!(step > 0))
+    {
+        return 1;
+    }
+    const double parts = std::ceil(step / kLargestStep - 1e-6);
+    return static_cast<int>(std::clamp(parts, 1.0, kMostParts));
+}
 
 CInput ParseInput(std::string_view text, const fs::path& folder, CRunLog& log)
 {

@@ -13,8 +13,6 @@ namespace
 {
 /// Courses 0 to 180: rows of a position's table as the listing's readers count them.
 constexpr int kHalfCircle = kCompassDirections / 2 + 1;
-constexpr double kLargestStep = 0.025; ///< rad/s, of the refined frequencies
-constexpr double kMostParts = 1000;    ///< a guard against steps that are no frequencies
 
 std::vector<double> CompassDirections(int count)
 {
@@ -24,17 +22,6 @@ std::vector<double> CompassDirections(int count)
         directions[n] = kCompassStep * static_cast<double>(n);
     }
     return directions;
-}
-
-/// Parts of a step; a step that is a whole number of the largest ones isn't divided further by its rounding.
-int PartsOf(double step)
-{
-    if (!(step > 0))
-    {
-        return 1;
-    }
-    const double parts = std::ceil(step / kLargestStep - 1e-6);
-    return static_cast<int>(std::clamp(parts, 1.0, kMostParts));
 }
 
 /// Weights of all directions for a sea around one of them, sum 1: cos^2 within the spreading angle (degrees).
@@ -99,7 +86,7 @@ CHeadings FindHeadings(const CInput& input, CRunLog& log)
     return headings;
 }
 
-CFrequencies::CFrequencies(const CInput& input) : Parts(PartsOf(input.FrequencyStep))
+CFrequencies::CFrequencies(const CInput& input) : Parts(RefinedParts(input.FrequencyStep))
 {
     for (int n = 0; n < input.FrequencyCount; ++n)
     {

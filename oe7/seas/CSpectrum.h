@@ -10,10 +10,6 @@
 namespace oe7
 {
 
-/// The 24 directions of directional spectra, and of the ship's courses in them, are 15 degrees apart.
-constexpr int kCompassDirections = 24;
-constexpr double kCompassStep = 15.0; ///< degrees
-
 /// Bretschneider 1959: significant height (m), peak period (s), at a frequency (rad/s); 0 if one isn't
 /// positive.
 double Bretschneider(double height, double peakPeriod, double w);

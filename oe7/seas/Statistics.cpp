@@ -57,18 +57,4 @@ CModeRms RmsOfModes(const CHeadingResponse& response)
     return rms;
 }
 
-CMoments RollMoments(const CHeadingResponse& response)
-{
-    constexpr std::size_t kRoll = 3;
-    CMoments moments;
-    for (const CComponentResponse& component : response)
-    {
-        for (std::size_t n = 0; n < component.Waves.size(); ++n)
-        {
-            moments.Add(std::norm(component.Motions[n][kRoll]), component.Encounter[n], component.Energy[n]);
-        }
-    }
-    return moments;
-}
-
 } // namespace oe7

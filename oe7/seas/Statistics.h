@@ -71,7 +71,4 @@ struct CMoments
 using CModeRms = std::array<std::array<double, kModes>, 3>;
 CModeRms RmsOfModes(const CHeadingResponse& response);
 
-/// Moments of roll alone.
-CMoments RollMoments(const CHeadingResponse& response);
-
 } // namespace oe7

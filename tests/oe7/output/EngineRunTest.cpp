@@ -146,6 +146,14 @@ TEST_F(EngineRun, NeverWritesThroughALinkOrPipeBesideItsFiles)
                                               "Ondara7_DimHyCo.csv", "Ondara7_WaveForce.csv"));
 }
 
+TEST_F(EngineRun, WritesOverItsOldLogWhereNothingCanBeMadeBesideIt)
+{
+    Folder.Write("ondara7.log", "0 completed without problems\n");
+    fs::create_directories(Folder.File("ondara7.log.part/full"));
+    EXPECT_EQ(Run(), 1);
+    EXPECT_THAT(Log(), StartsWith("-1 error: the file Ondara7.inp is not there\n"));
+}
+
 TEST_F(EngineRun, NeverTakesASpectrumsFileForOldResults)
 {
     Folder.Write("sea.bin", "0.5 1\n1.0 2\n");

@@ -70,13 +70,3 @@ TEST(Statistics, EveryModeHasItsRmsOverAllComponents)
     EXPECT_EQ(rms[0][0], 0);
     EXPECT_EQ(RmsOfModes({})[2][5], 0);
 }
-
-TEST(Statistics, RollMomentsAreOfRollAlone)
-{
-    CHeadingResponse response(1);
-    Add(response[0], 0.5, 2, 3, {0, 0.1});
-    Add(response[0], 0.7, 2, 2, 5);
-    const CMoments roll = RollMoments(response);
-    EXPECT_DOUBLE_EQ(roll.M0, 0.02);
-    EXPECT_DOUBLE_EQ(roll.M2, 0.005);
-}
