@@ -1,8 +1,6 @@
 #include "cli/CPagesCommand.h"
 
 #include "core/platform/NumberText.h"
-#include "core/results/CResultsCursor.h"
-#include "core/results/ResultsFile.h"
 
 CPagesCommand::CPagesCommand()
     : CCommand("pages", "Print the page estimate of an output report",
@@ -19,21 +17,6 @@ void CPagesCommand::Declare(CArguments& arguments)
 
 bool CPagesCommand::Run(CWorkbench& workbench)
 {
-    CMessages& messages = workbench.App.Platform.Messages;
-    const auto bytes = ReadResultsFile(m_file);
-    if (!bytes)
-    {
-        messages.MessageBox("The result file could not be read.", "Error In Result File", EIcon::Stop);
-        return false;
-    }
-    try
-    {
-        const CPageCounts counts = ReadPageCounts(*bytes);
-        return workbench.Print(IntegerText(EstimatePages(counts, m_sections.Flags(counts))) + "\n");
-    }
-    catch (const CResultsError&)
-    {
-        messages.MessageBox("There is a problem with the results file.", "Unable To Read File", EIcon::Stop);
-        return false;
-    }
+    const auto counts = LoadPageCounts(m_file, workbench.App.Platform.Messages);
+    return counts && workbench.Print(IntegerText(EstimatePages(*counts, m_sections.Flags(*counts))) + "\n");
 }

@@ -1,11 +1,12 @@
 #include "cli/CRunCommand.h"
 
-#include "cli/CInterruption.h"
+#include "cli/CEngineWait.h"
 #include "cli/CUsageError.h"
 #include "core/engine/CEngineInputWriter.h"
 #include "core/engine/CRunController.h"
 #include "core/engine/EngineLog.h"
 #include "core/engine/GainFiles.h"
+#include "core/engine/Waterline.h"
 #include "core/platform/BundledPrograms.h"
 #include "core/platform/EngineFolder.h"
 #include "core/platform/Files.h"
@@ -13,44 +14,24 @@
 #include "core/results/CResultsCommands.h"
 #include "core/results/CsvExport.h"
 
-#include <algorithm>
 #include <csignal>
 #include <vector>
 
-#include <poll.h>
-
 namespace
 {
-constexpr int kFirstPause = 20; ///< milliseconds; a fast engine shall not cost the user a whole period
-constexpr int kSignalBase = 128;
-
 /// A loop in place of a timer, a progress line in place of a window.
 class CConsoleRun : public CRunOwner
 {
 public:
     explicit CConsoleRun(CProgressLine& progress) : m_progress(progress) {}
 
-    bool SetTimer(int, int milliseconds) override
-    {
-        m_period = milliseconds;
-        return true;
-    }
+    bool SetTimer(int, int) override { return true; }
     bool KillTimer(int) override { return true; }
     void ShowRunningWindow() override { m_progress.Begin("Calculations being performed.  "); }
     void DestroyRunningWindow() override { m_progress.End(); }
 
-    /// Waits for the time of the next tick, or for a signal.
-    void Wait()
-    {
-        ::poll(nullptr, 0, m_pause);
-        m_pause = std::min(m_pause + m_pause / 4, m_period);
-        m_progress.Update();
-    }
-
 private:
     CProgressLine& m_progress;
-    int m_period = kRunTimerPeriod;
-    int m_pause = kFirstPause;
 };
 
 /// What the engine's folder is for: names that nothing else can be kept under there.
@@ -58,6 +39,7 @@ std::vector<std::string> EngineFileNames(const CProjectData& project)
 {
     std::vector<std::string> names = {kEngineInputName,
                                       kResultsFileName,
+                                      kKeptResultsName,
                                       kListingFileName,
                                       kLogFileName,
                                       kCoefficientTableName,
@@ -118,18 +100,18 @@ bool CRunCommand::Calculate(CWorkbench& workbench)
     COndaraApp& app = workbench.App;
     CConsoleRun owner(workbench.Progress);
     CRunController controller(app.Project, app.BaseDir, app.Platform, owner);
-    const CInterruption interruption;
+    CEngineWait wait(workbench.Progress, kRunTimerPeriod);
     controller.Run();
     while (controller.IsRunning())
     {
-        m_signal = interruption.Signal();
+        m_signal = wait.Signal();
         if (m_signal != 0)
         {
             controller.Stop();
             workbench.PlainLine("interrupted; the engine was ended");
             return false;
         }
-        owner.Wait();
+        wait.Sleep();
         controller.Tick(kRunTimer);
     }
     return app.Project.ResultsLoaded == 1;

@@ -1,5 +1,6 @@
 #include "cli/CWorkbench.h"
 
+#include "core/platform/FileErrors.h"
 #include "core/platform/Files.h"
 
 #include <iostream>
@@ -21,12 +22,7 @@ CWorkbench::CWorkbench(const CProgramOptions& options, std::ostream& output, std
 
 EOpened CWorkbench::Open(const std::string& path)
 {
-    const EOpened opened = App.InputFile().OpenPath(path);
-    if (opened != EOpened::Whole)
-    {
-        App.RecentFiles.Remove(path);
-    }
-    return opened;
+    return App.OpenRecentFile(path);
 }
 
 bool CWorkbench::Load(const CGivenFile& file)
@@ -43,13 +39,7 @@ bool CWorkbench::SaveAs(const std::string& path)
     const auto saved = App.InputFile().SaveInputAs();
     if (saved == ESaved::Short)
     {
-        const std::string& file = App.Project.InputFilePath;
-        std::string text = file + " is cut short, its disk has no room for all of it";
-        for (const std::string& kept : KeptContents(file))
-        {
-            text += "; last content in " + kept;
-        }
-        m_messages.PlainLine(text);
+        m_messages.PlainLine(ShortSaveText(App.Project.InputFilePath));
     }
     return saved == ESaved::Whole;
 }

@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
+#include "cli/CCheckCommand.h"
 #include "cli/CCompleteCommand.h"
 #include "cli/CConvertCommand.h"
 #include "cli/CDumpCommand.h"
@@ -28,6 +29,6 @@ std::vector<std::unique_ptr<CCommand>> Made()
 std::vector<std::unique_ptr<CCommand>> AllCommands()
 {
     return Made<CNewCommand, CDumpCommand, CConvertCommand, CUnitsCommand, CImportOffsetsCommand,
-                CEngineInputCommand, CWaterlineInputCommand, CRunCommand, CCompleteCommand, CRestoreCommand,
-                CReportCommand, CPagesCommand, CSummaryCommand>();
+                CEngineInputCommand, CWaterlineInputCommand, CCheckCommand, CRunCommand, CCompleteCommand,
+                CRestoreCommand, CReportCommand, CPagesCommand, CSummaryCommand>();
 }

@@ -18,9 +18,9 @@ constexpr CItem kExitCodes[] = {
     {"0", "Done."},
     {"1", "The command could not do its job; a message says why."},
     {"2", "Wrong usage: an unknown command or option, a missing argument, both --yes and --no."},
-    {"130", "A run was interrupted by Ctrl+C."},
-    {"131", "A run was interrupted by Ctrl+\\."},
-    {"143", "A run was asked to terminate; 129 when its terminal went away."},
+    {"130", "A run or a check was interrupted by Ctrl+C."},
+    {"131", "A run or a check was interrupted by Ctrl+\\."},
+    {"143", "A run or a check was asked to terminate; 129 when its terminal went away."},
 };
 
 constexpr CItem kEnvironment[] = {
@@ -36,6 +36,7 @@ constexpr CItem kFiles[] = {
     {"Ondara7.inp", "The engine's input, in the base folder."},
     {"OE7.exe, OE7", "The engine, in the base folder or with the bundled programs."},
     {"ondara7.bin", "The engine's results; after a good run the results file, in the base folder."},
+    {"Ondara7Orig.bin", "A copy of the last results from before a check that needed the engine."},
     {"ondara7.out, ondara7.log", "The engine's listing and its log, in the base folder."},
     {"RudderGain.inp, FinGain.inp", "Copies of the gain files that a project uses, in the base folder."},
     {"*.tv7", "Results files."},

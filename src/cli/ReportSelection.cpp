@@ -2,11 +2,11 @@
 
 #include "cli/CUsageError.h"
 #include "core/platform/NumberText.h"
+#include "core/results/report/ReportLists.h"
 
 #include <algorithm>
 #include <charconv>
 #include <iterator>
-#include <numeric>
 
 namespace
 {
@@ -97,9 +97,7 @@ CSelection CIndexOption::Selection(int count) const
 {
     if (!m_indices)
     {
-        CSelection all(static_cast<std::size_t>(count));
-        std::iota(all.begin(), all.end(), 0);
-        return all;
+        return AllIndices(count);
     }
     for (const int index : *m_indices)
     {

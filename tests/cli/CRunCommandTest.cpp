@@ -4,6 +4,7 @@
 #include "core/results/CResultsCommands.h"
 #include "core/results/LastLoadName.h"
 #include "tests/cli/CEngineCliTest.h"
+#include "tests/cli/Interrupted.h"
 #include "tests/support/CVariable.h"
 
 #include <chrono>
@@ -15,9 +16,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -25,38 +23,13 @@ using testing::Not;
 
 namespace
 {
-/// What the program itself gives when a signal comes while its engine is at work: exit code and errors.
+/// A run that would keep its results, as a signal ends it.
 CCliRun RunInterruptedBy(int signal)
 {
     CEngineCliTest test;
-    test.Engine.Fail("never-ends");
-    const std::string errors = test.Settings.File("errors");
-    const pid_t program = ::fork();
-    if (program == 0)
-    {
-        fs::current_path(test.Folder.Path());
-        static_cast<void>(std::freopen(errors.c_str(), "w", stderr));
-        std::signal(signal, SIG_DFL);
-        ::execl(ONDARA_BIN_DIR "/ondara-cli", "ondara-cli", "--profile", test.Profile.c_str(), "run",
-                "ship.od7", "--results", "out.tv7", nullptr);
-        ::_exit(99);
-    }
-    // The engine writes its log first of all.
-    for (int k = 0; k < 4000 && !test.Has("ondara7.log"); ++k)
-    {
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    EXPECT_TRUE(test.Has("ondara7.log"));
-    ::kill(program, signal);
-    int status = 0;
-    ::waitpid(program, &status, 0);
+    const CCliRun run = Interrupted(test, {"run", "ship.od7", "--results", "out.tv7"}, signal);
     EXPECT_FALSE(test.Has("out.tv7"));
-    fs::current_path("/"); // or the test would find itself
-    const std::string engines = test.Settings.File("engines");
-    static_cast<void>(std::system(
-        ("ls -l /proc/*/cwd 2>/dev/null | grep '" + test.Folder.Path() + "' >" + engines).c_str()));
-    EXPECT_EQ(FileContent(engines), "") << "no process is left in the engine's folder";
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, "", FileContent(errors)};
+    return run;
 }
 
 /// Whether a good run takes less than a time. One of a few will, also on a machine that has much to do.

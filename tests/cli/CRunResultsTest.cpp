@@ -63,8 +63,8 @@ TEST(CliRunResults, AFileOfTheEngineIsNoNameForThem)
 {
     CEngineCliTest test;
     for (const std::string name :
-         {"ondara7.bin", "Ondara7.BIN", "Ondara7.inp", "ondara7.log", "Ondara7_DimHyCo.csv",
-          "Ondara7_WaveForce.csv", "RudderGain.inp", "FinGain.inp", "OE7.exe"})
+         {"ondara7.bin", "Ondara7.BIN", "Ondara7Orig.bin", "Ondara7.inp", "ondara7.log",
+          "Ondara7_DimHyCo.csv", "Ondara7_WaveForce.csv", "RudderGain.inp", "FinGain.inp", "OE7.exe"})
     {
         ExpectMisused(test, name, name + " is a file of the engine");
     }

@@ -3,47 +3,21 @@
 
 #include "core/platform/CIniProfile.h"
 #include "tests/cli/CCliTest.h"
+#include "tests/support/CFullDisk.h"
 #include "tests/support/RecordText.h"
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace
 {
-/// Cuts every file at a number of bytes for as long as it lives, as a full disk does.
-class CFullDisk
-{
-public:
-    explicit CFullDisk(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = bytes;
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~CFullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    CFullDisk(const CFullDisk&) = delete;
-    CFullDisk& operator=(const CFullDisk&) = delete;
-
-private:
-    void (*m_handler)(int) = nullptr;
-    rlimit m_before = {};
-};
-
 CCliRun RunOnFullDisk(const CCliTest& test, const std::vector<std::string>& words)
 {
     const CFullDisk disk(100);

@@ -35,8 +35,8 @@ TEST(ManualPage, TellsOfEveryCommandAndOption)
 {
     const std::string page = Page();
     for (const std::string command :
-         {"new", "dump", "convert", "units", "import\\-offsets", "engine\\-input", "waterline\\-input", "run",
-          "complete", "restore", "report", "pages", "summary"})
+         {"new", "dump", "convert", "units", "import\\-offsets", "engine\\-input", "waterline\\-input",
+          "check", "run", "complete", "restore", "report", "pages", "summary"})
     {
         EXPECT_THAT(page, HasSubstr("\n.SS " + command + "\n\\fB" + command + "\\fR \\fI"));
     }

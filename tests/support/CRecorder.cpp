@@ -10,7 +10,13 @@ void CRecorder::MessageBox(const std::string& text, const std::string& title, EI
 bool CRecorder::AskYesNo(const std::string& text, const std::string& title, EIcon icon)
 {
     MessageBox(text, title, icon);
-    return Answer;
+    if (Answers.empty())
+    {
+        return Answer;
+    }
+    const bool answer = Answers.front();
+    Answers.pop_front();
+    return answer;
 }
 
 std::optional<std::string> CRecorder::AskOpen(const CFileRequest& request)

@@ -29,6 +29,7 @@ public:
 
     // What the tests answer. An empty name is Cancel; without a name left, the dialog is cancelled.
     std::deque<std::string> Files;
+    std::deque<bool> Answers; ///< to the next questions; those behind take Answer
     bool Answer = false;
     std::string ProfileFolder;
     EStart Start = EStart::Started;        ///< of the next programs

@@ -55,6 +55,16 @@ void COndaraApp::LoadSettings()
     }
 }
 
+EOpened COndaraApp::OpenRecentFile(const std::string& path)
+{
+    const EOpened opened = InputFile().OpenPath(path);
+    if (opened != EOpened::Whole)
+    {
+        RecentFiles.Remove(path);
+    }
+    return opened;
+}
+
 void COndaraApp::SetScreen(int width, int height, int iconSpacing)
 {
     ScreenSize = FormatText("%d%s%d", width, " x ", height);

@@ -28,6 +28,8 @@ public:
 
     /// A command on the input file.
     CInputFile InputFile() { return {Project, *this, Platform}; }
+    /// Opens a file whole without a dialog. One that can't be read whole leaves the recent-file list.
+    EOpened OpenRecentFile(const std::string& path);
 
     CPlatform Platform;
     CProjectData Project;

@@ -3,6 +3,7 @@
 #include "core/engine/CEngineInputWriter.h"
 #include "core/engine/EngineLog.h"
 #include "core/engine/GainFiles.h"
+#include "core/platform/CWaitCursor.h"
 #include "core/platform/EngineFolder.h"
 #include "core/platform/Files.h"
 #include "core/platform/NumberText.h"
@@ -11,22 +12,6 @@
 #include "core/results/LastLoadName.h"
 
 #include <cstdio>
-
-namespace
-{
-/// A wait cursor, and an arrow again on every way out.
-class CWaitCursor
-{
-public:
-    explicit CWaitCursor(CMessages& messages) : m_messages(messages) { m_messages.SetCursor(ECursor::Wait); }
-    ~CWaitCursor() { m_messages.SetCursor(ECursor::Arrow); }
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
-
-private:
-    CMessages& m_messages;
-};
-} // namespace
 
 void ShowRunFailure(CMessages& messages)
 {

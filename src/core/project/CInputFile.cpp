@@ -65,7 +65,15 @@ ESaved CInputFile::Save()
     return saved;
 }
 
-std::optional<ESaved> CInputFile::SaveInputAs()
+ESaved CInputFile::SaveInput()
+{
+    m_project.InputFileName = WithExtension(m_project.InputFileName, kExtension);
+    m_project.InputFilePath = WithExtension(m_project.InputFilePath, kExtension);
+    SetActiveNames(m_project.InputFilePath, EHalf::Both);
+    return Save();
+}
+
+std::optional<ESaved> CInputFile::SaveInputAs(EActiveNames names)
 {
     ChangeFolder(m_session.WorkDir);
     const auto path = m_platform.FileDialogs.AskSave({"*.od7", m_project.InputFilePath, kSaveFilter, true});
@@ -75,7 +83,10 @@ std::optional<ESaved> CInputFile::SaveInputAs()
         ChangeToFolderOf(*path);
         m_project.InputFilePath = WithExtension(*path, kExtension);
         m_project.InputFileName = FileName(m_project.InputFilePath);
-        SetActiveNames(m_project.InputFilePath, EHalf::Both);
+        if (names == EActiveNames::Follow)
+        {
+            SetActiveNames(m_project.InputFilePath, EHalf::Both);
+        }
         saved = Save();
     }
     m_session.WorkDir = CurrentFolder();
@@ -221,6 +232,14 @@ void CInputFile::SetActiveNames(const std::string& path, EHalf half)
         m_project.ActiveEnvironmentFile = path;
     }
     m_session.RepaintView();
+}
+
+int CInputFile::ImportOverOffsets()
+{
+    return m_platform.Messages.AskYesNo("Are you sure you want to overwrite existing offsets?",
+                                        "Import Geometry", EIcon::Question)
+               ? ImportOffsets()
+               : 0;
 }
 
 int CInputFile::ImportOffsets()

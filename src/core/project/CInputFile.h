@@ -21,6 +21,13 @@ enum class EOpened
     Damaged        ///< what stands before the damage did arrive
 };
 
+/// Whether the names of the active files follow the name of a save.
+enum class EActiveNames
+{
+    Follow,
+    Stay
+};
+
 class CInputFile
 {
 public:
@@ -32,13 +39,18 @@ public:
     void ResetAll();
     void ResetGeometry();
     void ResetEnvironment();
+    /// Both halves but for the names of their files, or one half with the name of its file, as an Open
+    /// command clears them.
+    void ClearHalf(EHalf half);
 
     /// Writes the project over the file that `InputFilePath` names. Shows a message if the file can't be
     /// opened. A disk that takes only part of it leaves a short file without a word; what stood in the file
     /// before then lies beside it, see SaveFile.
     ESaved Save();
+    /// Forces the extension of the file in hand, which becomes both active files, then saves.
+    ESaved SaveInput();
     /// Asks for a file, forces its extension, then saves. Nothing after Cancel.
-    std::optional<ESaved> SaveInputAs();
+    std::optional<ESaved> SaveInputAs(EActiveNames names = EActiveNames::Follow);
 
     /// Ask for a file and read it, whole or one half of it.
     EOpened OpenBoth();
@@ -51,6 +63,8 @@ public:
     /// Asks for an offset file. 1 if its stations and offsets went into the project, which is untouched
     /// otherwise.
     int ImportOffsets();
+    /// The same, if the user lets the offsets there are be overwritten.
+    int ImportOverOffsets();
 
     /// What the Open commands do with a file's content. Public so that hostile contents need no file.
     EOpened ReadContent(std::string_view content, EHalf half);
@@ -59,7 +73,6 @@ private:
     std::optional<std::string> AskOpen(const std::string& extension, const std::string& filter);
     EOpened Open(EHalf half);
     EOpened OpenFile(const std::string& path, EHalf half);
-    void ClearHalf(EHalf half);
     void SetActiveNames(const std::string& path, EHalf half);
 
     CProjectData& m_project;

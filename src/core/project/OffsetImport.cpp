@@ -160,7 +160,6 @@ void StoreOffsets(const COffsetTable& offsets, CProjectData& project)
         std::copy_n(offsets.Y.begin() + first, count, project.YAUSER.data.begin() + first);
         std::copy_n(offsets.Z.begin() + first, count, project.ZAUSERBL.data.begin() + first);
     }
-    // The file of a project has one tag for both.
+    // It rules Z too.
     project.YAUSER.unit = offsets.Unit;
-    project.ZAUSERBL.unit = offsets.Unit;
 }

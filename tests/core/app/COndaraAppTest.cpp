@@ -56,6 +56,16 @@ TEST(COndaraApp, AnEmptyRecentListGetsTheTwoSamples)
                                                           test.Folder.File("Data/Sample02.od7"), "", ""));
 }
 
+TEST(COndaraApp, ARecentFileThatCanNotBeReadWholeLeavesTheList)
+{
+    CTestApp test;
+    const std::string good = test.Folder.Write("good.od7", FileContent(SourceFile("samples/Sample01.od7")));
+    EXPECT_EQ(test.App.OpenRecentFile(good), EOpened::Whole);
+    test.App.RecentFiles.Add(test.Folder.File("gone.od7"));
+    EXPECT_EQ(test.App.OpenRecentFile(test.Folder.File("gone.od7")), EOpened::NotOpened);
+    EXPECT_THAT(test.App.RecentFiles.Paths(), ElementsAre(good, "", "", ""));
+}
+
 TEST(COndaraApp, ARecentListWithOneNameKeepsItAndGetsNone)
 {
     CTestApp test;

@@ -2,6 +2,7 @@
 
 #include "core/results/LastLoadName.h"
 #include "tests/core/engine/CEngineProject.h"
+#include "tests/support/CClosedFolder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -9,8 +10,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sys/fsuid.h>
 
 namespace fs = std::filesystem;
 using testing::Contains;
@@ -92,30 +91,6 @@ struct CRunTest : CEngineProject, CRunOwner
     CRunController Controller{Project, Folder.Path(), Recorder.Platform, *this};
     const std::string Results = Folder.File("ondara7.bin");
     const std::string StartEvent = "start OE7.exe in " + Folder.Path();
-};
-
-/// Lets nobody make or delete files in a folder for as long as it lives, not even who may do everything.
-class CClosedFolder
-{
-public:
-    explicit CClosedFolder(const std::string& path) : m_path(path)
-    {
-        fs::permissions(m_path, fs::perms(0555));
-        m_user = static_cast<uid_t>(::setfsuid(kNobody));
-    }
-    ~CClosedFolder()
-    {
-        ::setfsuid(m_user);
-        fs::permissions(m_path, fs::perms::owner_all);
-    }
-    CClosedFolder(const CClosedFolder&) = delete;
-    CClosedFolder& operator=(const CClosedFolder&) = delete;
-
-private:
-    static constexpr uid_t kNobody = 65534;
-
-    std::string m_path;
-    uid_t m_user = 0;
 };
 } // namespace
 

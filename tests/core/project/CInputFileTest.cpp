@@ -127,6 +127,31 @@ TEST(CInputFile, SaveDoesNotTouchTheRecentFilesNorTheModifiedFlag)
     EXPECT_EQ(test.Session.Modified, 1);
 }
 
+TEST(CInputFile, SaveInputForcesTheExtensionOfTheNamesInHand)
+{
+    CTestProject test;
+    test.Project.InputFilePath = test.Folder.File("ship.od6");
+    test.Project.InputFileName = "ship.od6";
+    EXPECT_EQ(test.File.SaveInput(), ESaved::Whole);
+    EXPECT_EQ(test.Project.InputFilePath, test.Folder.File("ship.od7"));
+    EXPECT_EQ(test.Project.InputFileName, "ship.od7");
+    EXPECT_EQ(test.Project.ActiveGeometryFile, test.Folder.File("ship.od7"));
+    EXPECT_EQ(test.Project.ActiveEnvironmentFile, test.Folder.File("ship.od7"));
+    EXPECT_TRUE(std::filesystem::exists(test.Folder.File("ship.od7")));
+    EXPECT_TRUE(test.Recorder.Requests.empty());
+}
+
+TEST(CInputFile, SaveAsCanLeaveTheActiveNames)
+{
+    CTestProject test;
+    test.Project.ActiveGeometryFile = "hull.od7";
+    test.Recorder.Files = {test.Folder.File("ship.od7")};
+    EXPECT_EQ(test.File.SaveInputAs(EActiveNames::Stay), ESaved::Whole);
+    EXPECT_EQ(test.Project.InputFileName, "ship.od7");
+    EXPECT_EQ(test.Project.ActiveGeometryFile, "hull.od7");
+    EXPECT_EQ(test.Project.ActiveEnvironmentFile, "");
+}
+
 // --- opening
 
 TEST(CInputFile, OpenBothAsksWithItsFilterAndTheLastName)

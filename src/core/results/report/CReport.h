@@ -43,6 +43,13 @@ enum EBanner
 /// The name under which reports show a spectrum; empty for an unknown one.
 const char* SpectrumName(int kind);
 
+/// A station of a hull of `stationCount` stations, numbered from the end that is wanted.
+template <class Number>
+constexpr Number StationLabel(Number station, int stationCount, bool fromStern)
+{
+    return fromStern ? static_cast<Number>(stationCount - 1) - station : station;
+}
+
 class CReport
 {
 public:

@@ -1,6 +1,7 @@
 #include "core/results/report/CReportWriter.h"
 
 #include "core/platform/CReplacementFile.h"
+#include "core/platform/CWaitCursor.h"
 #include "core/platform/FileErrors.h"
 #include "core/results/CResultsCursor.h"
 #include "core/results/ResultsErrors.h"
@@ -149,11 +150,26 @@ CReportWriter::CReportWriter(CProjectData& project, CPlatform& platform, const s
 
 bool CReportWriter::Write(const CReportFlags& flags)
 {
+    CFailureMessage failure = nullptr;
+    {
+        const CWaitCursor wait(m_platform.Messages); // a large report takes seconds
+        failure = WriteDocument(flags);
+    }
+    if (failure != nullptr)
+    {
+        failure(m_platform.Messages);
+        return false;
+    }
+    m_project.ReportDataRead = 1;
+    return true;
+}
+
+CReportWriter::CFailureMessage CReportWriter::WriteDocument(const CReportFlags& flags) const
+{
     std::optional<std::string> bytes = ReadResultsFile(m_project.ResultsFilePath);
     if (!bytes)
     {
-        ShowResultsNotOpened(m_platform.Messages);
-        return false;
+        return ShowResultsNotOpened;
     }
     CReplacementFile document(m_output);
     try
@@ -165,14 +181,7 @@ bool CReportWriter::Write(const CReportFlags& flags)
     }
     catch (const CResultsError&)
     {
-        ShowResultsDamaged(m_platform.Messages);
-        return false;
+        return ShowResultsDamaged;
     }
-    if (!document.Finish())
-    {
-        ShowSaveError(m_platform.Messages);
-        return false;
-    }
-    m_project.ReportDataRead = 1;
-    return true;
+    return document.Finish() ? nullptr : ShowSaveError;
 }

@@ -23,10 +23,15 @@ public:
 
     /// Writes the sections with flag 0 as the project's selection lists narrow them. Sets `ReportDataRead` to
     /// 1 once the results were read to their end. False, and a message, if the results can't be read or the
-    /// document can't be written; no finished document is left then.
+    /// document can't be written; no finished document is left then. The cursor is a wait cursor meanwhile.
     bool Write(const CReportFlags& flags);
 
 private:
+    using CFailureMessage = void (*)(CMessages& messages);
+
+    /// Gives what tells the user of a failure, nullptr without one.
+    CFailureMessage WriteDocument(const CReportFlags& flags) const;
+
     CProjectData& m_project;
     CPlatform& m_platform;
     std::string m_output;

@@ -1,15 +1,18 @@
 #include "core/results/report/PageEstimate.h"
 
 #include "core/platform/NumberText.h"
+#include "core/results/ResultsFile.h"
 #include "core/results/ResultsSections.h"
 #include "core/results/ResultsTrailer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
-constexpr int kListsOffset = 28;  ///< behind section C's begin, without the magic
-constexpr int kOutRaoOffset = 20; ///< behind section B's begin
+constexpr int kListsOffset = 28; ///< behind section C's begin, without the magic
+constexpr int kOutSysOffset = 4; ///< behind section B's begin
+constexpr int kOutRaoOffset = 20;
 constexpr int kLoadFlagOffset = 32;
 constexpr int kCommonColumns = 3; ///< of the breakdown tables, in front of the appendages
 
@@ -76,18 +79,23 @@ CControlSection ReadCounts(std::string_view bytes, const CResultsTrailer& traile
     CResultsCursor start(bytes, trailer.SectionC);
     const CControlSection control = ReadControlSection(start);
     CResultsCursor cursor(bytes, kBodyOffset);
-    const CResultsBody body = ReadBodyTables(cursor, head);
+    CResultsBody body = ReadBodyTables(cursor, head);
     counts.SpectrumKind = head.SpectrumKind;
     counts.SpreadAngle = head.SpreadAngle;
     counts.LoadStationCount = head.LoadStationCount;
     counts.PositionCount = body.PositionCount;
     counts.SpeedCount = control.SpeedCount;
     counts.Speeds = control.Speeds;
-    counts.Headings = body.Headings;
+    counts.Headings = std::move(body.Headings);
+    counts.LoadStations = std::move(body.LoadStations);
+    counts.WaveHeights = std::move(body.WaveHeights);
+    counts.WavePeriods = std::move(body.WavePeriods);
     counts.SeawayCount = body.SeawayCount;
     counts.FreqCount = body.FreqCount;
+    counts.StationCount = head.StationCount;
     counts.StationNumbering = control.HasMagic ? control.StationNumbering : 0;
     counts.AppendageColumns = AppendageColumns(control);
+    counts.OutSys = InputWord(bytes, trailer.SectionB, kOutSysOffset);
     counts.OutRao = InputWord(bytes, trailer.SectionB, kOutRaoOffset);
     counts.LoadFlag = InputWord(bytes, trailer.SectionB, kLoadFlagOffset);
     return control;
@@ -101,6 +109,25 @@ CPageCounts ReadPageCounts(std::string_view bytes)
     const CControlSection control = ReadCounts(bytes, trailer, counts);
     CountPositions(counts, KindsOfTheForm(bytes, trailer.SectionC, control.HasMagic));
     return counts;
+}
+
+std::optional<CPageCounts> LoadPageCounts(const std::string& path, CMessages& messages)
+{
+    const auto bytes = ReadResultsFile(path);
+    if (!bytes)
+    {
+        messages.MessageBox("The result file could not be read.", "Error In Result File", EIcon::Stop);
+        return std::nullopt;
+    }
+    try
+    {
+        return ReadPageCounts(*bytes);
+    }
+    catch (const CResultsError&)
+    {
+        messages.MessageBox("There is a problem with the results file.", "Unable To Read File", EIcon::Stop);
+        return std::nullopt;
+    }
 }
 
 CPageCounts ReadReportCounts(std::string_view bytes)

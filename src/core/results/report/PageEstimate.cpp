@@ -1,5 +1,6 @@
 #include "core/results/report/PageEstimate.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -11,12 +12,11 @@ constexpr int kManyAppendageColumns = 13;
 class CEstimate
 {
 public:
-    explicit CEstimate(const CPageCounts& counts) : m_counts(counts)
+    explicit CEstimate(const CPageCounts& counts) : m_counts(counts), m_headings180(CountHeadings180(counts))
     {
         for (std::size_t k = 0; k < counts.Headings.size(); ++k)
         {
             const float heading = counts.Headings[k];
-            m_headings180 += heading >= 0 && heading <= kGreatestReportedHeading ? 1 : 0;
             m_positionHeadings += heading > 0 || (k == 0 && heading == 0) ? 1 : 0;
         }
     }
@@ -74,7 +74,7 @@ private:
     int RmsTables() const { return (m_counts.PositionCount + 1) * Seas(); }
 
     const CPageCounts& m_counts;
-    int m_headings180 = 0;
+    int m_headings180;
     int m_positionHeadings = 0;
 };
 
@@ -94,6 +94,12 @@ void OfferIrregularSeas(const CPageCounts& counts, CReportFlags& flags)
     offer(kSectionMotionSickness, counts.MsiPositions > 0);
 }
 } // namespace
+
+int CountHeadings180(const CPageCounts& counts)
+{
+    const auto isReported = [](float heading) { return heading >= 0 && heading <= kGreatestReportedHeading; };
+    return static_cast<int>(std::count_if(counts.Headings.begin(), counts.Headings.end(), isReported));
+}
 
 CReportFlags OfferedSections(const CPageCounts& counts)
 {

@@ -2,6 +2,8 @@
 
 #include "core/results/CResultsCursor.h"
 #include "tests/support/CMadeResults.h"
+#include "tests/support/CRecorder.h"
+#include "tests/support/CTestFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -313,9 +315,27 @@ TEST(PageCounts, AreThoseOfTheFile)
         EXPECT_EQ(counts.LoadStationCount, 2);
         EXPECT_EQ(counts.PositionCount, 3);
         EXPECT_EQ(counts.StationNumbering, 1);
+        EXPECT_EQ(counts.StationCount, 3);
+        EXPECT_EQ(counts.OutSys, 1);
+        EXPECT_EQ(counts.LoadStations.size(), 2U);
+        EXPECT_EQ(counts.WaveHeights.size(), 2U);
+        EXPECT_EQ(counts.WavePeriods.size(), 2U);
     }
     made.LoadFlag = 1;
     EXPECT_EQ(ReadPageCounts(made.Bytes()).LoadFlag, 1);
+}
+
+TEST(PageCounts, OfAFileThatCannotBeOpenedAndOfOneThatCannotBeRead)
+{
+    const CTestFolder folder;
+    CRecorder recorder;
+    EXPECT_FALSE(LoadPageCounts(folder.File("gone.tv7"), recorder));
+    EXPECT_FALSE(LoadPageCounts(folder.Write("short.tv7", "OD7b"), recorder));
+    EXPECT_THAT(recorder.Messages,
+                ElementsAre("Error In Result File: The result file could not be read.",
+                            "Unable To Read File: There is a problem with the results file."));
+    EXPECT_TRUE(LoadPageCounts(folder.Write("whole.tv7", CMadeResults().Bytes()), recorder));
+    EXPECT_EQ(recorder.Messages.size(), 2U);
 }
 
 TEST(PageCounts, OfAReportHaveThePositionsAsTheyStand)
