@@ -32,6 +32,8 @@ function(ondara_layer folder)
     endif()
 
     add_library(${target} OBJECT ${sources})
+    # A new header makes a meta object file too.
+    set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${headers}")
     target_include_directories(${target} PUBLIC ${root})
     target_link_libraries(${target} PRIVATE ondara_options PUBLIC ${LAYER_LIBRARIES})
     foreach(lower IN LISTS LAYER_DEPENDS)
