@@ -9,6 +9,9 @@ namespace
 {
 constexpr std::size_t kLongestOffsetLine = 255;
 
+/// What spreadsheets put in front of a file that they save as UTF-8.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 constexpr int kFewestStations = 2;
 constexpr int kFewestOffsets = 3;
 
@@ -27,7 +30,11 @@ constexpr COffsetField kZ = {-50.0F, 100000.0F, "Z Offset: Min: -50.00, Max: 100
 class COffsetReader
 {
 public:
-    COffsetReader(std::string_view content, COffsetTable& offsets) : m_lines(content), m_offsets(offsets) {}
+    COffsetReader(std::string_view content, COffsetTable& offsets)
+        : m_lines(content.substr(content.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)),
+          m_offsets(offsets)
+    {
+    }
 
     bool Read()
     {

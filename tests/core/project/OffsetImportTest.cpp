@@ -120,6 +120,13 @@ TEST(OffsetImport, MetresAndMetricAreBothMetric)
     }
 }
 
+TEST(OffsetImport, AByteOrderMarkOfASpreadsheetIsNoPartOfTheUnits)
+{
+    EXPECT_EQ(Failure(WithLine(1, "\xEF\xBB\xBFMetric")), "");
+    EXPECT_EQ(Failure(WithLine(1, "\xEF\xBBMetric")), kUnits);
+    EXPECT_EQ(Failure("\xEF\xBB\xBF"), kUnits);
+}
+
 TEST(OffsetImport, FeetFailsAlthoughItNamesABritishUnit)
 {
     EXPECT_EQ(Failure(WithLine(1, "Feet")), kUnits);
