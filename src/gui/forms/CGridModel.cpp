@@ -152,8 +152,12 @@ void CGridModel::SetEnabled(int row, int column, bool enabled)
 
 void CGridModel::SetBackground(int row, int column, const QColor& colour)
 {
-    Cell(row, column).Background = colour;
-    Changed(row, column);
+    CCell& cell = Cell(row, column);
+    if (cell.Background != colour)
+    {
+        cell.Background = colour;
+        Changed(row, column);
+    }
 }
 
 bool CGridModel::MayChange(int row, int column) const

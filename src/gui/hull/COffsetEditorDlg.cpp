@@ -125,6 +125,7 @@ void COffsetEditorDlg::FollowTable()
             [this]
             {
                 ShowReadouts();
+                ShowGaps();
                 m_plot->Draw();
             });
     connect(m_table, &CGrid::RowsMoved, this,
@@ -132,6 +133,7 @@ void COffsetEditorDlg::FollowTable()
             {
                 ReadScreen();
                 ShowReadouts();
+                ShowGaps();
                 m_plot->Draw();
             });
     connect(m_table, &CGrid::FocusCellChanged, this,
@@ -156,6 +158,7 @@ QLayout* COffsetEditorDlg::MakeReadouts()
     m_stationReadout = display("StationReadout");
     m_yReadout = display("YReadout");
     m_zReadout = display("ZReadout");
+    m_gaps = display("Gaps");
     row->addStretch(1);
     m_stationCount = new QLineEdit(this);
     m_stationCount->setObjectName("StationCount");
@@ -227,7 +230,29 @@ void COffsetEditorDlg::ShowStation(int station)
     m_stations->Show(m_offsets.StationCount(), station);
     m_stationCount->setText(QString::number(m_offsets.StationCount()));
     ShowReadouts();
+    ShowGaps();
     m_plot->ShowStation(station);
+}
+
+/// A project's file has as many rows of a station as there are points: each row without one in front of the
+/// last costs a point, which the user shall see in time.
+void COffsetEditorDlg::ShowGaps()
+{
+    const QColor warning(255, 224, 178);
+    const CStationOffsets offsets = m_offsets.Station(m_station);
+    bool isBehind = false; // a point stands below: the row that is being typed at the end is no gap
+    bool hasGap = false;
+    for (int row = kMaxOffsets - 1; row >= 0; --row)
+    {
+        const bool isGap = isBehind && !offsets.IsPresent(row);
+        isBehind = isBehind || offsets.IsPresent(row);
+        for (const int column : {kY, kZ})
+        {
+            m_table->Cells().SetBackground(row, column, isGap ? warning : QColor());
+        }
+        hasGap = hasGap || isGap;
+    }
+    m_gaps->setText(hasGap ? tr("Rows without a point: the last points will not be saved") : QString());
 }
 
 void COffsetEditorDlg::ShowReadouts()

@@ -53,6 +53,7 @@ private:
     void ReadRow(int row);
     void ShowStation(int station);
     void ShowReadouts();
+    void ShowGaps();
     void Convert();
     void Store();
 
@@ -91,6 +92,7 @@ private:
     QLabel* m_stationReadout;
     QLabel* m_yReadout;
     QLabel* m_zReadout;
+    QLabel* m_gaps;
     int m_station = 0;
     int m_copiedStation = -1;
     bool m_stationsChanged = false;

@@ -399,3 +399,24 @@ TEST(OffsetEditor, TheBilgeKeelsFormIsNotThereYet)
     EXPECT_FALSE(form.IsEnabled("BilgeKeels"));
     EXPECT_NE(form.Find<QWidget>("BilgeKeels").toolTip(), "");
 }
+
+TEST(OffsetEditor, RowsWithoutAPointInFrontOfTheLastAreShown)
+{
+    CHull hull;
+    CFormDriver form = Opened<COffsetEditorDlg>(hull);
+    const auto isMarked = [&form](int row)
+    {
+        const QAbstractItemModel& cells = *Table(form).model();
+        return cells.data(cells.index(row, kZ), Qt::BackgroundRole).isValid();
+    };
+    EXPECT_EQ(form.Caption("Gaps"), "");
+    EditCell(form, 6, kY, "5.5"); // a point that is still being typed
+    EXPECT_EQ(form.Caption("Gaps"), "");
+    EditCell(form, 3, kZ, "");
+    EXPECT_EQ(form.Caption("Gaps"), "Rows without a point: the last points will not be saved");
+    EXPECT_TRUE(isMarked(3));
+    EXPECT_FALSE(isMarked(4));
+    form.Click("station.2");
+    EXPECT_EQ(form.Caption("Gaps"), "");
+    EXPECT_FALSE(isMarked(3));
+}
