@@ -110,6 +110,11 @@ int CChart2D::LineCount() const
     return static_cast<int>(m_view->Lines.size());
 }
 
+double CChart2D::LineValue(int line) const
+{
+    return m_view->Lines[Place(line)].Value;
+}
+
 void CChart2D::SetTitle(const QString& title)
 {
     m_view->SetTitle(title);

@@ -74,6 +74,7 @@ public:
     void AddLine(EChartAxis axis, double value, const QString& name, const CSeriesStyle& style);
     void ClearLines();
     int LineCount() const;
+    double LineValue(int line) const;
 
     // Axes. An axis without a range takes that of the points.
     void SetTitle(const QString& title);

@@ -18,6 +18,7 @@ CIndexList::CIndexList(const char* name, const QString& title, const QStringList
       m_list(new QListWidget(this))
 {
     m_list->setObjectName(QString::fromLatin1(name));
+    setObjectName(m_list->objectName() + ".group");
     m_list->setSelectionMode(QAbstractItemView::MultiSelection);
     m_list->setAccessibleName(title);
     m_list->addItems(entries);

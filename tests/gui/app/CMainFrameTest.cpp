@@ -3,6 +3,8 @@
 
 #include "gui/platform/QtText.h"
 #include "tests/gui/app/CFrameTest.h"
+#include "tests/support/CTestProject.h"
+#include "tests/support/RecordText.h"
 
 #include <filesystem>
 
@@ -146,6 +148,31 @@ TEST(MainFrame, OpenEnvironmentAsksForAFile)
     ASSERT_EQ(test.Recorder.Requests.size(), 1U);
     EXPECT_EQ(test.Recorder.Requests[0].DefaultExtension, "*.od7");
     EXPECT_EQ(test.App.Project.InputFilePath, "noname");
+}
+
+TEST(MainFrame, OpenEnvironmentTakesTheEnvironmentOfAnEarlierFileOnly)
+{
+    CTestProject sea;
+    sea.Project.NSEADIR.Set(3);
+    sea.Project.WAVESTEEP.Set(0.0625F);
+    sea.Project.SHIPLEN.Set(55);
+    CFrameTest test;
+    test.OpenSample();
+    const std::string ship = test.App.Project.ActiveGeometryFile;
+    const float length = test.App.Project.SHIPLEN.Value();
+    ASSERT_NE(length, 55);
+    const std::vector<float> offsets = test.App.Project.YAUSER.data;
+    const std::string path = test.Folder.Write("sea.od6", AsPreviousGeneration(InputFileText(sea.Project)));
+    test.Recorder.Files = {path};
+    test.Give("File.OpenEnvironment");
+    EXPECT_THAT(test.Recorder.Messages, IsEmpty());
+    EXPECT_EQ(test.App.Project.NSEADIR.Integer(), 3);
+    EXPECT_EQ(test.App.Project.WAVESTEEP.Value(), 0.0625F);
+    EXPECT_EQ(test.App.Project.SHIPLEN.Value(), length);
+    EXPECT_EQ(test.App.Project.YAUSER.data, offsets);
+    EXPECT_EQ(test.App.Project.ActiveGeometryFile, ship);
+    EXPECT_EQ(test.App.Project.ActiveEnvironmentFile, path);
+    EXPECT_EQ(Recent(test)[0], path);
 }
 
 TEST(MainFrame, ImportOverwritesOffsetsAfterAQuestion)

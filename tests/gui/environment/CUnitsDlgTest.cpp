@@ -1,6 +1,7 @@
 #include "gui/environment/CUnitsDlg.h"
 
 #include "tests/support/gui/CFormDriver.h"
+#include "tests/support/gui/ControlTable.h"
 
 #include <gmock/gmock.h>
 
@@ -146,4 +147,20 @@ TEST(Units, OneTabStopForEachGroupAndThenTheButtons)
         stops.push_back(form.Focus());
     }
     EXPECT_THAT(stops, ElementsAre("OK", "Cancel", "Help", "INSYS.1", "OUTSYS.1", "WATERDEN.1"));
+}
+
+TEST(Units, HaveTheirControls)
+{
+    CMetric project;
+    CFormDriver form = project.Open();
+    using enum EControl;
+    ExpectControls(form.Form(), WithButtons({{"INSYS.group", Group, "Input"},
+                                             {"INSYS.0", RadioButton, "British Units"},
+                                             {"INSYS.1", RadioButton, "Metric Units"},
+                                             {"OUTSYS.group", Group, "Output"},
+                                             {"OUTSYS.0", RadioButton, "British Units"},
+                                             {"OUTSYS.1", RadioButton, "Metric Units"},
+                                             {"WATERDEN.group", Group, "Water Density"},
+                                             {"WATERDEN.0", RadioButton, "Salt Water"},
+                                             {"WATERDEN.1", RadioButton, "Fresh Water"}}));
 }

@@ -27,6 +27,9 @@ struct CLoadedHull : CHull
     }
 };
 
+/// An offset file. Its stations are told apart by the Y of their last points.
+constexpr const char* kTwoStationsFromAft = "Metric\n2,AP=0\n0,3\n0,0\n1,0\n1,1\n1,3\n0,0\n2,0\n2,2\n";
+
 void PressIn(QDialog& dialog, const char* name)
 {
     dialog.findChild<QPushButton*>(name)->click();
@@ -364,8 +367,7 @@ TEST(HullGeometry, AfterAnImportTheEditorOpens)
 {
     CLoadedHull hull;
     hull.Recorder.Answer = true;
-    hull.Recorder.Files.push_back(hull.Folder.Write("hull.csv", "Metric\n2,AP=0\n0,3\n0,0\n1,0\n1,1\n"
-                                                                "1,3\n0,0\n2,0\n2,2\n"));
+    hull.Recorder.Files.push_back(hull.Folder.Write("hull.csv", kTwoStationsFromAft));
     CFormDriver form = Opened<CHullGeometryDlg>(hull);
     int opened = 0;
     AtDialog<COffsetEditorDlg>("COffsetEditorDlg", [&opened](COffsetEditorDlg&) { ++opened; });
@@ -393,4 +395,143 @@ TEST(HullGeometry, HelpOpensItsTopic)
     CFormDriver form = Opened<CHullGeometryDlg>(hull);
     form.Click("Help");
     EXPECT_THAT(hull.HelpTopics, ElementsAre(200));
+}
+
+TEST(HullGeometry, RangesAreMetricAlsoInFeet)
+{
+    CLoadedHull hull;
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Click("DRAFTMID.unit");
+    form.Type("DRAFTMID", "40000"); // 12192 m
+    form.Ok();
+    EXPECT_TRUE(form.IsOpen());
+    EXPECT_EQ(form.Caption("DRAFTMID.unit"), "feet");
+    EXPECT_EQ(form.Text("DRAFTMID"), "40000.000");
+    EXPECT_EQ(form.Selected(), "40000.000");
+    form.Type("DRAFTMID", "7.777"); // 2.370 m
+    form.Ok();
+    EXPECT_FALSE(form.IsOpen());
+    EXPECT_THAT(hull.Recorder.Messages,
+                ElementsAre("Draft at midship out of Range: Min. = -10000.00   Max. = 10000.00"));
+    EXPECT_EQ(form.Text("DRAFTMID"), "7.776"); // there and back by three decimals
+    EXPECT_EQ(hull.Project.DRAFTMID.Value(), 7.776F);
+    EXPECT_EQ(hull.Project.DRAFTMID.unit, kUnitBritish);
+}
+
+TEST(HullGeometry, TheDisplacementsRangeIsMetricAlsoInLongTons)
+{
+    CLoadedHull hull;
+    hull.Project.TRIMDEF.Set(1);
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Click("DISPUSER.unit");
+    form.Type("DISPUSER", "9900000"); // 10058864 t
+    form.Ok();
+    EXPECT_TRUE(form.IsOpen());
+    EXPECT_EQ(form.Focus(), "DISPUSER");
+    EXPECT_EQ(form.Caption("DISPUSER.unit"), "LT");
+    EXPECT_EQ(form.Text("DISPUSER"), "9899999.000"); // there and back in single precision
+    form.Type("DISPUSER", "1000.5");
+    form.Ok();
+    EXPECT_FALSE(form.IsOpen());
+    EXPECT_EQ(form.Text("DISPUSER"), "1000.500");
+    EXPECT_EQ(hull.Project.DISPUSER.Value(), 1000.5F);
+}
+
+TEST(HullGeometry, LimitsOfTheDisplacementAndItsCentreHaveSixDecimals)
+{
+    CLoadedHull hull;
+    hull.Project.TRIMDEF.Set(1);
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Type("DISPUSER", "0");
+    form.Ok();
+    form.Type("DISPUSER", "1000");
+    form.Type("LCGPUSER", "100001");
+    form.Ok();
+    EXPECT_TRUE(form.IsOpen());
+    EXPECT_THAT(hull.Recorder.Messages,
+                ElementsAre("Displacement out of Range: Min. = 0.000001   Max. = 10000000.00",
+                            "LCG from FP out of Range: Min. = 0.000001   Max. = 100000.00"));
+}
+
+TEST(HullGeometry, AFourthDecimalChangesTheFieldAndDoesNotCountAsModified)
+{
+    CLoadedHull hull;
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Type("DRAFTMID", "6.0004");
+    form.Ok();
+    EXPECT_EQ(hull.Project.DRAFTMID.Value(), 6.0004F);
+    EXPECT_EQ(hull.Project.DRAFTMID.changed, 1);
+    EXPECT_EQ(hull.Session.Modified, 0);
+}
+
+TEST(HullGeometry, AThirdDecimalCountsAsModified)
+{
+    CLoadedHull hull;
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Type("DRAFTMID", "6.001");
+    form.Ok();
+    EXPECT_EQ(hull.Project.DRAFTMID.changed, 1);
+    EXPECT_EQ(hull.Session.Modified, 1);
+}
+
+TEST(HullGeometry, AfterAnImportWithSectionalAreasChosenTheirFormOpens)
+{
+    CLoadedHull hull;
+    hull.Recorder.Answer = true;
+    hull.Recorder.Files.push_back(hull.Folder.Write("hull.csv", kTwoStationsFromAft));
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    form.Click("HULLDEF.1");
+    int rows = 0;
+    AtDialog<CSectionAreasDlg>("CSectionAreasDlg", [&rows](CSectionAreasDlg& areas)
+                               { rows = areas.findChild<CGrid*>("table")->Cells().RowCount(); });
+    form.Click("ImportOffsets");
+    EXPECT_EQ(rows, 2);
+    EXPECT_EQ(form.Text("NST"), "2");
+}
+
+TEST(HullGeometry, AnImportFromAftKeepsTheFilesOrderAndTheEditorShowsItReversed)
+{
+    CLoadedHull hull;
+    hull.Recorder.Answer = true;
+    hull.Recorder.Files.push_back(hull.Folder.Write("hull.csv", kTwoStationsFromAft));
+    CFormDriver form = Opened<CHullGeometryDlg>(hull);
+    std::vector<QString> breadths;
+    AtDialog<COffsetEditorDlg>("COffsetEditorDlg",
+                               [&breadths](COffsetEditorDlg& editor)
+                               {
+                                   for (const char* station : {"station.0", "station.1"})
+                                   {
+                                       PressIn(editor, station);
+                                       const auto* table = editor.findChild<CGrid*>("table");
+                                       breadths.push_back(table->model()->index(2, 0).data().toString());
+                                   }
+                               });
+    form.Click("ImportOffsets");
+    EXPECT_EQ(hull.Y(0, 2), 1); // the file's station 0
+    EXPECT_EQ(hull.Y(1, 2), 2);
+    EXPECT_THAT(breadths, ElementsAre("2.000", "1.000"));
+}
+
+TEST(HullGeometry, AfterTheEditorTheProjectsOwnStationNumbersHoldUntilOk)
+{
+    for (const char* leave : {"Cancel", "OK"})
+    {
+        CLoadedHull hull;
+        CFormDriver form = Opened<CHullGeometryDlg>(hull);
+        form.Click("StationOrigin.1");
+        int during = -1;
+        AtDialog<COffsetEditorDlg>("COffsetEditorDlg",
+                                   [&](COffsetEditorDlg& editor)
+                                   {
+                                       during = hull.Project.StationOrigin;
+                                       PressIn(editor, leave);
+                                   });
+        form.Click("ShowEdit");
+        EXPECT_EQ(during, 1);
+        EXPECT_EQ(hull.Project.StationOrigin, 0) << leave;
+        EXPECT_TRUE(form.IsChecked("StationOrigin.1"));
+        EXPECT_EQ(hull.Y(10, 1), 2.25F) << "stations stay in their places";
+        form.Cancel();
+        EXPECT_EQ(hull.Project.StationOrigin, 0) << leave;
+    }
 }

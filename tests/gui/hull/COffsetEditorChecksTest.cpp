@@ -352,3 +352,20 @@ TEST(OffsetEditorChecks, RowsThatACheckHasMarkedAreMarkedNoMoreAtTheNextStation)
     ASSERT_EQ(hull.Recorder.Messages.size(), 1U);
     EXPECT_EQ(Selected(form).size(), 1U);
 }
+
+TEST(OffsetEditorChecks, AfterYesAtFewPointsCancelAsksNothingAndTheCopyStaysStored)
+{
+    CHullWithFewPoints hull;
+    hull.Recorder.Answer = true;
+    CFormDriver form = Opened<COffsetEditorDlg>(hull);
+    form.Click("YAUSER.unit");
+    EditCell(form, 5, kZ, "5.5");
+    form.Ok();
+    ASSERT_TRUE(form.IsOpen());
+    form.Cancel();
+    EXPECT_FALSE(form.IsOpen());
+    EXPECT_THAT(hull.Recorder.Messages, ElementsAre(hull.Question));
+    EXPECT_EQ(hull.Z(5, 5), 5.5F);
+    EXPECT_EQ(hull.Project.YAUSER.unit, kUnitBritish);
+    EXPECT_EQ(hull.Session.Modified, 1);
+}

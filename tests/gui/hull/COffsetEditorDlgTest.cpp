@@ -335,6 +335,22 @@ TEST(OffsetEditor, TheWaterlineShowsWhereTheDraftIsKnown)
     EXPECT_EQ(Plot(form).LineCount(), 1);
 }
 
+TEST(OffsetEditor, TheWaterlineFollowsTheTrimFromStationToStation)
+{
+    for (const int origin : {0, 1})
+    {
+        CHull hull(11, origin);
+        hull.Project.WorkingDraft = 2;
+        hull.Project.WorkingTrim = 1; // by the stern
+        CFormDriver form = Opened<COffsetEditorDlg>(hull);
+        EXPECT_NEAR(Plot(form).LineValue(0), 2, 1e-6);
+        form.Click("station.0");
+        EXPECT_NEAR(Plot(form).LineValue(0), origin == 0 ? 1.5 : 2.5, 1e-6);
+        form.Click("station.8");
+        EXPECT_NEAR(Plot(form).LineValue(0), origin == 0 ? 2.3 : 1.7, 1e-6);
+    }
+}
+
 TEST(OffsetEditor, ABlockOfASpreadsheetIsPasted)
 {
     CHull hull;

@@ -211,3 +211,36 @@ TEST(OffsetEditorStations, AStationIsRestoredInTheUnitOnShow)
     form.Click("RestoreOriginal");
     EXPECT_EQ(CellText(form, 1, kY), "3.281");
 }
+
+TEST(OffsetEditorStations, AnInsertedStationIsRestoredToWhatItsNumberHeldBefore)
+{
+    for (const int origin : {0, 1})
+    {
+        CHull hull(11, origin);
+        CFormDriver form = Opened<COffsetEditorDlg>(hull);
+        form.Click("station.3");
+        form.Click("InsertStation");
+        ASSERT_EQ(CellText(form, 5, kY), "");
+        form.Click("RestoreOriginal");
+        const int third = origin == 0 ? 3 : 7;
+        EXPECT_EQ(CellText(form, 5, kY), Shown(hull, third, 5));
+        form.Click("station.4");
+        EXPECT_EQ(CellText(form, 5, kY), Shown(hull, third, 5)) << "moved";
+        form.Click("RestoreOriginal");
+        EXPECT_EQ(CellText(form, 5, kY), Shown(hull, origin == 0 ? 4 : 6, 5));
+        EXPECT_EQ(form.Text("StationCount"), "12");
+    }
+}
+
+TEST(OffsetEditorStations, AStationBehindTheFormerLastIsRestoredEmpty)
+{
+    for (const int origin : {0, 1})
+    {
+        CHull hull(11, origin);
+        CFormDriver form = Opened<COffsetEditorDlg>(hull);
+        form.Click("InsertStation");
+        form.Click("station.11");
+        form.Click("RestoreOriginal");
+        EXPECT_EQ(CellText(form, 0, kY), "");
+    }
+}

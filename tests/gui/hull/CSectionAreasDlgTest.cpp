@@ -260,3 +260,35 @@ TEST(SectionAreas, TheFirstStationCanBeChosenLikeAnyOther)
     table.setCurrentIndex(table.model()->index(0, kBeam));
     EXPECT_TRUE(form.IsEnabled("InsertStation"));
 }
+
+TEST(SectionAreas, WithStationZeroAftTheStationsAreNumberedDownwardsAnew)
+{
+    CAreas areas(4, 1);
+    CFormDriver form = Opened<CSectionAreasDlg>(areas);
+    Table(form).SetFocusCell(1, kBeam);
+    form.Click("InsertStation");
+    EXPECT_THAT(Column(form, kStation), ElementsAre("4", "3", "2", "1", "0"));
+    EXPECT_THAT(Column(form, kBeam), ElementsAre("10.000", "", "11.000", "12.000", "13.000"));
+    Table(form).SetFocusCell(0, kBeam);
+    form.Click("DeleteStation");
+    form.Click("DeleteStation");
+    EXPECT_THAT(Column(form, kStation), ElementsAre("2", "1", "0"));
+    EXPECT_THAT(Column(form, kBeam), ElementsAre("11.000", "12.000", "13.000"));
+}
+
+TEST(SectionAreas, StationsBehindTheNewCountBecomeUnset)
+{
+    CAreas areas(5);
+    CFormDriver form = Opened<CSectionAreasDlg>(areas);
+    Table(form).SetFocusCell(0, kBeam);
+    form.Click("DeleteStation");
+    form.Click("DeleteStation");
+    form.Ok();
+    for (const CParamArray* field : {&areas.Project.BEAM, &areas.Project.DRAFT, &areas.Project.ACOEF})
+    {
+        EXPECT_NE(field->Value(2), kNotGiven);
+        EXPECT_EQ(field->Value(3), kNotGiven);
+        EXPECT_EQ(field->Value(4), kNotGiven);
+    }
+    EXPECT_EQ(areas.Project.NST.Value(), 3);
+}

@@ -390,3 +390,89 @@ TEST(SegmentDivision, EnterOnTheNumberDoesNotClose)
     EXPECT_EQ(dialog.Answer(), ESegmentAnswer::Ignore);
     EXPECT_EQ(dialog.Pieces(), 0);
 }
+
+namespace
+{
+/// A hull with a station, by its place in the project, that rises along the centreline before its short
+/// segments. The editor opens there.
+struct CHullWithStem : CLongHull
+{
+    CHullWithStem(int station, int origin) : CLongHull({}, 20, station)
+    {
+        Project.StationOrigin = origin;
+        Project.OffsetEditRequested = 1;
+        Project.OffsetEditStation = station;
+        Set(station, 0, 0, -2);
+        Set(station, 1, 0, 0);
+    }
+};
+
+/// How many segments of the station on show are asked about.
+int AskedAbout(CHull& hull)
+{
+    CFormDriver form = Opened<COffsetEditorDlg>(hull);
+    const auto asked = AtQuestions({[](const CQuestion& question) { question.Press("Ignore"); }});
+    form.Click("CheckSegments");
+    QApplication::processEvents(); // a question that didn't come
+    return *asked;
+}
+} // namespace
+
+TEST(SegmentDivision, ALongSegmentOnTheCentrelineIsSparedInTheForeHalf)
+{
+    for (const auto& [station, asked] : {std::pair(0, 0), {4, 0}, {5, 1}, {6, 1}, {10, 1}})
+    {
+        for (const int origin : {0, 1})
+        {
+            CHullWithStem hull(station, origin);
+            EXPECT_EQ(AskedAbout(hull), asked) << station << " with origin " << origin;
+        }
+    }
+}
+
+TEST(SegmentDivision, ALongSegmentBesideTheCentrelineIsNotSpared)
+{
+    CHullWithStem hull(2, 0);
+    hull.Set(2, 1, 0.001F, 0);
+    EXPECT_EQ(AskedAbout(hull), 1);
+}
+
+TEST(SegmentDivision, TrimBringsTheWaterlineOverTheSegmentsAtTheSternAlone)
+{
+    for (const int origin : {0, 1})
+    {
+        for (const int station : {1, 9}) // by its place in the project, from forward
+        {
+            CLongHull hull({2}, 20, station);
+            hull.Project.StationOrigin = origin;
+            hull.Project.OffsetEditRequested = 1;
+            hull.Project.OffsetEditStation = station;
+            hull.Project.WorkingDraft = 0.25F; // to which the long one reaches amidships
+            hull.Project.WorkingTrim = 0.2F;
+            EXPECT_EQ(AskedAbout(hull), station == 9 ? 1 : 0) << station << " with origin " << origin;
+        }
+    }
+}
+
+TEST(SegmentDivision, TheOptionThatIsTakenBackIsStoredHoweverTheFormCloses)
+{
+    const CActs ways = {[](const CQuestion& question) { question.Press("YesToAll"); },
+                        [](const CQuestion& question) { QTest::keyClick(&question.Dialog, Qt::Key_Escape); },
+                        [](const CQuestion& question) { question.Dialog.close(); }};
+    for (const auto& leave : ways)
+    {
+        CLongHull hull({2});
+        hull.Project.ChkSegLenInter = 1;
+        CFormDriver form = Opened<COffsetEditorDlg>(hull);
+        const auto asked = AtQuestions({[&leave](const CQuestion& question)
+                                        {
+                                            EXPECT_TRUE(question.Always().isChecked());
+                                            question.Always().click();
+                                            leave(question);
+                                        }});
+        form.Click("CheckSegments");
+        EXPECT_EQ(*asked, 1);
+        EXPECT_EQ(hull.Project.ChkSegLenInter, 0);
+        EXPECT_EQ((hull.Recorder.Entries[{"Settings", "ChkSegLenInter"}]), "0");
+    }
+}

@@ -1,6 +1,7 @@
 #include "gui/results/CCustomizeResultsDlg.h"
 
 #include "tests/support/gui/CFormDriver.h"
+#include "tests/support/gui/ControlTable.h"
 
 #include <gmock/gmock.h>
 
@@ -273,4 +274,25 @@ TEST(CustomizeResults, EnterInAListDoesNotCloseTheForm)
     form.Press(Qt::Key_Return);
     EXPECT_TRUE(form.IsOpen());
     EXPECT_EQ(form.Focus(), "SelectedSpeeds.SelectAll");
+}
+
+TEST(CustomizeResults, HasItsControls)
+{
+    CCustomizeCase customize({kSectionMotionRao});
+    CFormDriver form = customize.Open();
+    EXPECT_EQ(form.Form().windowTitle(), "Customize Results");
+    using enum EControl;
+    ExpectControls(form.Form(), WithButtons({{"SelectedSpeeds", List, "Ship Speeds"},
+                                             {"SelectedSpeeds.SelectAll", Button, "Select All"},
+                                             {"SelectedSpeeds.Clear", Button, "Clear"},
+                                             {"SelectedHeadings", List, "Ship Direction"},
+                                             {"SelectedHeadings.SelectAll", Button, "Select All"},
+                                             {"SelectedHeadings.Clear", Button, "Clear"},
+                                             {"SelectedSeaways", List, "Seaway"},
+                                             {"SelectedSeaways.SelectAll", Button, "Select All"},
+                                             {"SelectedSeaways.Clear", Button, "Clear"},
+                                             {"SelectedPositions", List, "Load Position"},
+                                             {"SelectedPositions.SelectAll", Button, "Select All"},
+                                             {"SelectedPositions.Clear", Button, "Clear"},
+                                             {"PageCount", Readout, "Number of Pages:"}}));
 }

@@ -4,6 +4,7 @@
 #include "tests/support/CMadeResults.h"
 #include "tests/support/gui/AtDialog.h"
 #include "tests/support/gui/CFormDriver.h"
+#include "tests/support/gui/ControlTable.h"
 
 #include <gmock/gmock.h>
 
@@ -487,4 +488,33 @@ TEST(DisplayResults, HelpAndTheTabOrder)
     form.Click("Help");
     EXPECT_THAT(test.HelpTopics, ElementsAre(800));
     EXPECT_TRUE(form.IsOpen());
+}
+
+TEST(DisplayResults, HasItsControls)
+{
+    CDisplayCase display;
+    CFormDriver form = display.Open();
+    EXPECT_EQ(form.Form().windowTitle(), "Display Results");
+    using enum EControl;
+    ExpectControls(form.Form(), {{"General.group", Group, "Ship and Environment"},
+                                 {"Summary", CheckBox, "Summary"},
+                                 {"Environment", CheckBox, "Environment"},
+                                 {"Regular.group", Group, "Regular Seas"},
+                                 {"MotionRao", CheckBox, "Motion RAO"},
+                                 {"LoadRao", CheckBox, "Load RAO"},
+                                 {"RollDamping", CheckBox, "Roll Damping Coefficients"},
+                                 {"Irregular.group", Group, "Irregular Seas"},
+                                 {"RmsMotion", CheckBox, "RMS Motion Response"},
+                                 {"RmsShortCrested", CheckBox, "RMS Motion Response Short-Crested Seas"},
+                                 {"RmsLoad", CheckBox, "RMS Load Response"},
+                                 {"Slamming", CheckBox, "Deck Wetness/Slamming/Emergencence "},
+                                 {"Mii", CheckBox, "Motion Interruption Index"},
+                                 {"Msi", CheckBox, "Motion Sickness Incidence"},
+                                 {"SelectAll", CheckBox, "Select All"},
+                                 {"Customize", CheckBox, "Customize"},
+                                 {"PageCount", Readout, "Number of Pages:"},
+                                 {"SaveHtml", Button, "Save HTML File and View"},
+                                 {"OK", Button, "View"},
+                                 {"Cancel", Button, "Cancel"},
+                                 {"Help", Button, "Help"}});
 }

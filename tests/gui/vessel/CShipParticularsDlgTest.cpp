@@ -1,6 +1,7 @@
 #include "gui/vessel/CShipParticularsDlg.h"
 
 #include "tests/support/gui/CFormDriver.h"
+#include "tests/support/gui/ControlTable.h"
 
 #include <gmock/gmock.h>
 
@@ -567,4 +568,32 @@ TEST(Particulars, OptionWithoutAButtonShowsNoneAndStaysUntilOneIsClicked)
     again.Ok();
     EXPECT_EQ(ship.Project.ROLLRGDEF.Value(), 0);
     EXPECT_EQ(ship.Session.Modified, 1);
+}
+
+TEST(Particulars, HaveTheirControls)
+{
+    CShip ship;
+    CFormDriver form = ship.Open();
+    using enum EControl;
+    ExpectControls(form.Form(), WithButtons({{"SHIPLEN", TextBox, "Length Between Perpendiculars"},
+                                             {"SHIPLEN.unit", UnitCaption, "meters"},
+                                             {"KG", TextBox, "Height of Center of Gravity from Baseline"},
+                                             {"KG.unit", UnitCaption, "meters"},
+                                             {"PITCHRG", TextBox, "Dry Pitch Radius of Gyration"},
+                                             {"PITCHRG.unit", UnitCaption, "meters"},
+                                             {"GMFLAG.group", Group, "Metacentric Height:"},
+                                             {"GMFLAG.0", RadioButton, "Computed"},
+                                             {"GMFLAG.1", RadioButton, "User Specified"},
+                                             {"GMUSER", TextBox, ""},
+                                             {"GMUSER.unit", UnitCaption, "meters"},
+                                             {"ROLLRGDEF.group", Group, "Roll"},
+                                             {"ROLLRGDEF.0", RadioButton, "Roll Natural Frequency in Water"},
+                                             {"ROLLRGDEF.1", RadioButton, "Roll Radius of Gyration in Air"},
+                                             {"ROLLRGDEF.2", RadioButton, "Roll Radius of Gyration in Water"},
+                                             {"ROLLNF", TextBox, ""},
+                                             {"ROLLNF.unit", FixedCaption, "rad/sec"},
+                                             {"ROLLRG", TextBox, ""},
+                                             {"ROLLRG.unit", UnitCaption, "meters"},
+                                             {"WETROLLRG", TextBox, ""},
+                                             {"WETROLLRG.unit", UnitCaption, "meters"}}));
 }

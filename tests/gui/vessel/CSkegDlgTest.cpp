@@ -1,6 +1,7 @@
 #include "gui/vessel/CSkegDlg.h"
 
 #include "tests/support/gui/CFormDriver.h"
+#include "tests/support/gui/ControlTable.h"
 
 #include <gmock/gmock.h>
 
@@ -265,4 +266,20 @@ TEST(Skeg, HelpIsTopic310)
     CFormDriver form = hull.Open();
     form.Click("Help");
     EXPECT_THAT(hull.HelpTopics, ElementsAre(310));
+}
+
+TEST(Skeg, HasItsControls)
+{
+    CHull hull;
+    CFormDriver form = hull.Open();
+    EXPECT_EQ(form.Form().windowTitle(), "Skeg Geometry");
+    using enum EControl;
+    ExpectControls(
+        form.Form(),
+        WithButtons({{"IncludeSkeg", CheckBox, "Include Skeg Information in Calculations"},
+                     {"XSTAFTSKEG", TextBox, "Station number of aftmost point where skeg meets hull"},
+                     {"BSKEG", TextBox, "Skeg Breadth"},
+                     {"BSKEG.unit", UnitCaption, "meters"},
+                     {"ELSKEG", TextBox, "Skeg Length"},
+                     {"ELSKEG.unit", UnitCaption, "meters"}}));
 }
