@@ -13,6 +13,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 
 namespace
@@ -351,6 +354,7 @@ void CFormDlg::Open()
     FitSize(grows);
     LoadFields();
     OrderButtons();
+    FitScreen();
 }
 
 void CFormDlg::FitSize(Qt::Orientations grows)
@@ -367,6 +371,41 @@ void CFormDlg::FitSize(Qt::Orientations grows)
     {
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
+}
+
+void CFormDlg::FitScreen()
+{
+    const int bar = 2 * fontMetrics().height(); // of the window's title
+    const QSize room = screen()->availableSize() - QSize(0, bar);
+    const QSize wanted = layout()->totalSizeHint();
+    const bool isFixed = layout()->sizeConstraint() == QLayout::SetFixedSize;
+    const QSize least = isFixed ? wanted : layout()->totalMinimumSize();
+    if (least.width() <= room.width() && least.height() <= room.height())
+    {
+        return; // or it shrinks by itself
+    }
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    auto* contents = new QWidget(scroll); // in this window from the first, so that the tab order stays
+    auto* whole = static_cast<QVBoxLayout*>(layout());
+    whole->removeItem(m_body);
+    m_body->setParent(nullptr);
+    contents->setLayout(m_body);
+    scroll->setWidget(contents);
+    whole->insertWidget(0, scroll, 1);
+    whole->setSizeConstraint(QLayout::SetDefaultConstraint);
+    const int bars = scroll->verticalScrollBar()->sizeHint().width();
+    resize((wanted + QSize(bars, bars)).boundedTo(room));
+    connect(qApp, &QApplication::focusChanged, scroll,
+            [scroll, contents](QWidget*, QWidget* now)
+            {
+                if (now != nullptr && contents->isAncestorOf(now))
+                {
+                    scroll->ensureWidgetVisible(now);
+                }
+            });
 }
 
 void CFormDlg::FocusFirst()

@@ -94,6 +94,8 @@ protected:
 private:
     void Open();
     void FitSize(Qt::Orientations grows);
+    /// Puts scroll bars around all but the buttons of a form that is larger than the screen.
+    void FitScreen();
     void FocusFirst();
     void OrderButtons();
     bool IsEnterHere(const QObject& watched, const QEvent& event) const;

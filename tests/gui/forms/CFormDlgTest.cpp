@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTableWidget>
 #include <QTest>
 
@@ -389,4 +390,43 @@ TEST(HullHasStations, ElseAMessageTellsWhatIsMissing)
     project.Project.NST.Set(1);
     EXPECT_TRUE(HullHasStations(project.Project, project.Recorder));
     EXPECT_EQ(project.Recorder.Messages.size(), 1U);
+}
+
+namespace
+{
+/// More rows than any screen has room for.
+class CTall : public CFormDlg
+{
+public:
+    explicit CTall(CFormContext& context) : CFormDlg(context, "CTall", "Tall", 1, nullptr)
+    {
+        for (int k = 0; k < kMaxStations; ++k)
+        {
+            for (CParamArray* field : {&Project().BEAM, &Project().DRAFT, &Project().XST})
+            {
+                Number("Number", {*field, k}, "%.2f").RangeTitle("Number out of Range");
+            }
+        }
+    }
+};
+} // namespace
+
+TEST(Form, OneLargerThanTheScreenIsScrolledToWhereTheUserIs)
+{
+    CFormProject project;
+    project.Project.XST.Set(20, 1000);
+    CFormDriver form = Opened<CTall>(project);
+    QDialog& dialog = form.Form();
+    EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+    EXPECT_FALSE(form.Find<QWidget>("OK").visibleRegion().isEmpty());
+    QWidget& first = form.Find<QWidget>("BEAM.0");
+    QWidget& last = form.Find<QWidget>("XST.20");
+    EXPECT_EQ(form.Focus(), "BEAM.0");
+    EXPECT_TRUE(last.visibleRegion().isEmpty());
+    form.Ok();
+    EXPECT_EQ(form.Focus(), "XST.20"); // out of range
+    EXPECT_FALSE(last.visibleRegion().isEmpty());
+    EXPECT_TRUE(first.visibleRegion().isEmpty());
+    form.Press(Qt::Key_Return);
+    EXPECT_EQ(form.Focus(), "OK");
 }
