@@ -8,6 +8,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <QVBoxLayout>
+
 namespace
 {
 /// Width to height of the section's plot, whatever its shape on the screen.
@@ -35,16 +37,16 @@ CSectionPlot::CSectionPlot(const CProjectData& project, const COffsetCopy& offse
     : QTabWidget(parent),
       m_project(project),
       m_offsets(offsets),
+      m_platform(platform),
       m_section(new CChart2D(this, &platform)),
-      m_bodyPlan(new CChart2D(this, &platform))
+      m_bodyPage(new QWidget(this))
 {
     setObjectName("pictures");
     setDocumentMode(true);
     setFocusPolicy(Qt::TabFocus);
     m_section->setObjectName("plot");
-    m_bodyPlan->setObjectName("bodyplan");
     addTab(m_section, tr("Section"));
-    addTab(m_bodyPlan, tr("Body Plan"));
+    addTab(m_bodyPage, tr("Body Plan"));
     m_section->ShowLegend(true, Qt::AlignTop | Qt::AlignRight);
     connect(this, &QTabWidget::currentChanged, this, &CSectionPlot::Draw);
     connect(m_section, &CChart2D::PointClicked, this,
@@ -55,7 +57,20 @@ CSectionPlot::CSectionPlot(const CProjectData& project, const COffsetCopy& offse
                     PickPoint(m_station, point);
                 }
             });
-    connect(m_bodyPlan, &CChart2D::PointClicked, this, &CSectionPlot::PickPoint);
+}
+
+CChart2D& CSectionPlot::BodyPlan()
+{
+    if (m_bodyPlan == nullptr)
+    {
+        m_bodyPlan = new CChart2D(m_bodyPage, &m_platform);
+        m_bodyPlan->setObjectName("bodyplan");
+        auto* whole = new QVBoxLayout(m_bodyPage);
+        whole->setContentsMargins(0, 0, 0, 0);
+        whole->addWidget(m_bodyPlan);
+        connect(m_bodyPlan, &CChart2D::PointClicked, this, &CSectionPlot::PickPoint);
+    }
+    return *m_bodyPlan;
 }
 
 void CSectionPlot::ShowStation(int station)
@@ -73,7 +88,7 @@ void CSectionPlot::MarkRow(int row)
     }
     else
     {
-        m_bodyPlan->HighlightPoint(m_station, MarkedPoint());
+        BodyPlan().HighlightPoint(m_station, MarkedPoint());
     }
 }
 
@@ -143,20 +158,21 @@ void CSectionPlot::DrawSection()
 
 void CSectionPlot::DrawBodyPlan()
 {
-    m_bodyPlan->SetSeriesCount(m_offsets.StationCount());
+    CChart2D& plan = BodyPlan();
+    plan.SetSeriesCount(m_offsets.StationCount());
     for (int station = 0; station < m_offsets.StationCount(); ++station)
     {
         std::vector<QPointF> points = Section(station).Points;
         const bool isAft = IsAft(station);
         std::for_each(points.begin(), points.end(),
                       [isAft](QPointF& point) { point.rx() *= isAft ? -1 : 1; });
-        m_bodyPlan->SetPoints(station, std::move(points));
-        m_bodyPlan->SetStyle(station, station == m_station ? kBoldStyle : isAft ? kAftStyle : kForeStyle);
+        plan.SetPoints(station, std::move(points));
+        plan.SetStyle(station, station == m_station ? kBoldStyle : isAft ? kAftStyle : kForeStyle);
     }
-    m_bodyPlan->SetTitle(tr("Body Plan, Station %1 in bold").arg(m_station));
-    DrawWaterline(*m_bodyPlan);
-    SetAxes(*m_bodyPlan);
-    SetScale(*m_bodyPlan, true);
+    plan.SetTitle(tr("Body Plan, Station %1 in bold").arg(m_station));
+    DrawWaterline(plan);
+    SetAxes(plan);
+    SetScale(plan, true);
 }
 
 /// The midship section counts for the fore body.

@@ -39,6 +39,8 @@ private:
     };
 
     CSection Section(int station) const;
+    /// The body plan's picture, made when it is first wanted.
+    CChart2D& BodyPlan();
     void DrawSection();
     void DrawBodyPlan();
     void DrawWaterline(CChart2D& chart) const;
@@ -52,8 +54,10 @@ private:
 
     const CProjectData& m_project;
     const COffsetCopy& m_offsets;
+    CPlatform& m_platform;
     CChart2D* m_section;
-    CChart2D* m_bodyPlan;
+    QWidget* m_bodyPage;
+    CChart2D* m_bodyPlan = nullptr;
     int m_station = 0;
     int m_row = -1;
     int m_segment = -1;
