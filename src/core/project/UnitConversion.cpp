@@ -213,6 +213,11 @@ void ConvertLateralControl(CProjectData& project, const CConversion& conversion)
 }
 } // namespace
 
+float LengthFactor(int from, int to)
+{
+    return from == to ? 1.0F : to == kUnitMetric ? kMetresPerFoot : kFeetPerMetre;
+}
+
 void ConvertProject(CProjectData& project, int unit)
 {
     const CConversion conversion(unit);

@@ -3,6 +3,9 @@
 
 #include "core/project/CProjectData.h"
 
+/// What a length under one unit flag is multiplied by under another.
+float LengthFactor(int from, int to);
+
 /// Converts the lengths and masses that are held in the other system, and sets their unit flags. `unit` is
 /// kUnitMetric or kUnitBritish. Values that aren't given stay as they are.
 void ConvertProject(CProjectData& project, int unit);

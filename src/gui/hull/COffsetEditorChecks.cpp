@@ -1,5 +1,5 @@
 // What the offset editor looks at before it leaves a station and at OK.
-#include "core/project/UnitFactors.h"
+#include "core/project/UnitConversion.h"
 #include "gui/forms/CGrid.h"
 #include "gui/hull/COffsetEditorDlg.h"
 #include "gui/hull/CSectionPlot.h"
@@ -35,7 +35,7 @@ bool COffsetEditorDlg::FirstOffsetIsThere()
 
 bool COffsetEditorDlg::IsInRange(int column, float minimum, float maximum, const std::string& title)
 {
-    const float toMetres = m_offsets.Unit() == kUnitMetric ? 1 : kMetresPerFoot;
+    const float toMetres = LengthFactor(m_offsets.Unit(), kUnitMetric);
     for (int row = 0; row < kMaxOffsets; ++row)
     {
         const float value = column == kY ? m_offsets.Y(m_station, row) : m_offsets.Z(m_station, row);

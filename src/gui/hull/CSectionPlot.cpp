@@ -1,6 +1,6 @@
 #include "gui/hull/CSectionPlot.h"
 
-#include "core/project/UnitFactors.h"
+#include "core/project/UnitConversion.h"
 #include "gui/forms/CChart2D.h"
 #include "gui/hull/WorkingLoading.h"
 
@@ -27,8 +27,7 @@ const CSeriesStyle kBoldStyle = {ELine::Solid, EMarker::None, QColor(0x1f, 0x5f,
 
 double In(int unit, float value, int ownUnit)
 {
-    const double factor = unit == ownUnit ? 1 : unit == kUnitMetric ? kMetresPerFoot : kFeetPerMetre;
-    return static_cast<double>(value) * factor;
+    return static_cast<double>(value) * static_cast<double>(LengthFactor(ownUnit, unit));
 }
 } // namespace
 

@@ -44,7 +44,6 @@ private:
     void DrawSection();
     void DrawBodyPlan();
     void DrawWaterline(CChart2D& chart) const;
-    void DrawKeels();
     std::vector<QPointF> KeelPoints(int pair) const;
     void SetScale(CChart2D& chart, bool bothSides) const;
     void SetAxes(CChart2D& chart) const;

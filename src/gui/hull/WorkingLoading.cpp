@@ -2,7 +2,7 @@
 
 #include "core/engine/Waterline.h"
 #include "core/project/Sentinels.h"
-#include "core/project/UnitFactors.h"
+#include "core/project/UnitConversion.h"
 
 #include <algorithm>
 
@@ -10,8 +10,7 @@ namespace
 {
 float In(int unit, const CShownLength& length)
 {
-    const bool isThere = !IsGiven(length.Value) || length.Unit == unit;
-    return isThere ? length.Value : length.Value * (unit == kUnitMetric ? kMetresPerFoot : kFeetPerMetre);
+    return IsGiven(length.Value) ? length.Value * LengthFactor(length.Unit, unit) : length.Value;
 }
 } // namespace
 

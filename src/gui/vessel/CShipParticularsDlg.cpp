@@ -1,6 +1,6 @@
 #include "gui/vessel/CShipParticularsDlg.h"
 
-#include "core/project/UnitFactors.h"
+#include "core/project/UnitConversion.h"
 #include "gui/forms/HelpTopics.h"
 
 namespace
@@ -66,11 +66,7 @@ void CShipParticularsDlg::SuggestPitchRadius()
         return;
     }
     // An empty length gives "0.000", which the range check then points at.
-    float quarter = m_length->IsEmpty() ? 0.0F : m_length->Value() / 4;
-    const int unit = m_pitchRadius->Caption()->Unit();
-    if (unit != m_length->Caption()->Unit())
-    {
-        quarter *= unit == kUnitBritish ? kFeetPerMetre : kMetresPerFoot;
-    }
-    m_pitchRadius->SetText(FixedText(quarter, "%.3f"));
+    const float quarter = m_length->IsEmpty() ? 0.0F : m_length->Value() / 4;
+    const float factor = LengthFactor(m_length->Caption()->Unit(), m_pitchRadius->Caption()->Unit());
+    m_pitchRadius->SetText(FixedText(quarter * factor, "%.3f"));
 }
